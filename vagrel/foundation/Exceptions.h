@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// The exceptions of the library. Every one is an EVagrel, whose text is kept in UTF-16 and given by what() in UTF-8.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace vagrel {
+
+/// Base of all exceptions of the library. `what()` is UTF-8.
+class EVagrel : public std::runtime_error {
+public:
+    explicit EVagrel(std::u16string_view message);
+    explicit EVagrel(const std::string& message) : std::runtime_error(message) {}
+
+    /// The message in UTF-16.
+    std::u16string Message() const;
+};
+
+/// Misuse of an operation in the state that the object is in.
+class EInvalidOperation : public EVagrel {
+    using EVagrel::EVagrel;
+};
+
+/// A value outside the range that the document allows.
+class EOutOfRange : public EVagrel {
+    using EVagrel::EVagrel;
+};
+
+/// Text that does not convert to the wanted type.
+class EConvertError : public EVagrel {
+    using EVagrel::EVagrel;
+};
+
+/// A file or stream that cannot be opened, read or written, or that ends too early.
+class EStreamError : public EVagrel {
+    using EVagrel::EVagrel;
+};
+
+/// Something that this version of the library does not have yet.
+class ENotAvailable : public EVagrel {
+    using EVagrel::EVagrel;
+};
+
+} // namespace vagrel

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+// Reading and replacing whole files over the standard library and rename().
+#include <vagrel/platform/Files.h>
+
+#include <vagrel/foundation/Exceptions.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace vagrel {
+
+namespace {
+
+struct TCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using TFile = std::unique_ptr<std::FILE, TCloser>;
+
+[[noreturn]] void Fail(const char* what, const std::string& name, int error) {
+    throw EStreamError(std::string("cannot ") + what + " \"" + name + "\": " + std::strerror(error));
+}
+
+} // namespace
+
+std::string ReadFile(const std::string& name) {
+    // fopen opens directories; only reading them fails, and with a less telling reason.
+    if (std::filesystem::is_directory(name))
+        Fail("read", name, EISDIR);
+    TFile file(std::fopen(name.c_str(), "rb"));
+    if (!file)
+        Fail("read", name, errno);
+    std::string bytes;
+    char buffer[65536];
+    while (std::size_t count = std::fread(buffer, 1, sizeof buffer, file.get()))
+        bytes.append(buffer, count);
+    if (std::ferror(file.get()))
+        Fail("read", name, errno);
+    return bytes;
+}
+
+void WriteFile(const std::string& name, std::string_view bytes) {
+    std::string temporary = name + ".XXXXXX";
+    const int handle = mkstemp(temporary.data());
+    if (handle < 0)
+        Fail("write", name, errno);
+    auto fail = [&](int error) {
+        std::remove(temporary.c_str());
+        Fail("write", name, error);
+    };
+    TFile file(fdopen(handle, "wb"));
+    if (!file) {
+        const int error = errno;
+        close(handle);
+        fail(error);
+    }
+    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+    const int writeError = errno;
+    if (std::fclose(file.release()) != 0 || !written)
+        fail(written ? errno : writeError);
+
+    // mkstemp makes private files; a replaced file keeps its mode, a new one takes the usual one.
+    namespace fs = std::filesystem;
+    std::error_code none;
+    const fs::file_status old = fs::status(name, none);
+    const mode_t mask = umask(0);
+    umask(mask);
+    fs::permissions(temporary, fs::exists(old) ? old.permissions() : fs::perms(0666 & ~mask), none);
+    if (std::rename(temporary.c_str(), name.c_str()) != 0)
+        fail(errno);
+}
+
+bool FileExists(const std::string& name) {
+    std::error_code none;
+    return std::filesystem::exists(name, none) && !std::filesystem::is_directory(name, none);
+}
+
+} // namespace vagrel
