@@ -545,6 +545,11 @@ enum TKSLSelType : std::int32_t {
 
 enum TKSLInputType : std::int32_t { intNone, intText, intFloat, intInt };
 
+/// Keys and buttons held during a pointer event.
+enum TShift : std::int32_t { ssShift, ssAlt, ssCtrl, ssLeft, ssRight, ssMiddle, ssDouble };
+
+enum TMouseButton : std::int32_t { mbLeft, mbRight, mbMiddle };
+
 // The inspector
 
 /// Groups of rows that several families share.
@@ -695,6 +700,7 @@ using TKSLayerOpts = TKSLSet<TKSLayerOp>;
 using TKSLAlignTypes = TKSLSet<TKSLAlignType>;
 using TKSLInpectorBaseTypes = TKSLSet<TKSLInsTypeBase>;
 using TKSLInpectorTypes = TKSLSet<TKSLInsType>;
+using TShiftState = TKSLSet<TShift>;
 using TKSLMapProviders = TKSLSet<TKSLMapProvider>;
 
 /// The name of an item type, as "Line"; "None" for a value that is no type.
