@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+// Fill and size of items that enclose an area.
+#include <vagrel/document/TVGR2DItem.h>
+
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/document/TVGRCmd.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/Units.h>
+#include <vagrel/persistence/JsonColors.h>
+#include <vagrel/persistence/TBinaryWriter.h>
+#include <vagrel/persistence/TJsonObject.h>
+
+namespace vagrel {
+
+namespace {
+
+std::int64_t Span(std::int64_t a, std::int64_t b) { return a < b ? SubSat(b, a) : SubSat(a, b); }
+
+} // namespace
+
+TVGR2DItem::TVGR2DItem(TVGRBaseLabel& owner, TKSLItemType type, bool preview) : TVGRBaseItem(owner, type, preview) {
+    fResize = true;
+}
+
+TVGR2DItem::TVGR2DItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview)
+    : TVGRBaseItem(owner, type, layer, preview) {
+    fResize = true;
+}
+
+void TVGR2DItem::SetBackColor(TAlphaColor value) {
+    if (value == fBackColor)
+        return;
+    TVGRColorCmd::AddCommand(*this, cmd::Back);
+    fBackColor = value;
+    StateUpdate();
+}
+
+void TVGR2DItem::SetFilled(bool value) {
+    if (value == fFill)
+        return;
+    TVGRBoolCmd::AddCommand(*this, cmd::Filled);
+    fFill = value;
+    StateUpdate();
+}
+
+std::int64_t TVGR2DItem::BaseWidth() const { return Span(GetPoint(1).bX, GetPoint(2).bX); }
+std::int64_t TVGR2DItem::BaseHeight() const { return Span(GetPoint(1).bY, GetPoint(2).bY); }
+
+std::int64_t TVGR2DItem::BaseScaleWidth() const {
+    return Round(double(BaseWidth()) / double(fOwner.GetMeasure().GetDrawScale()));
+}
+
+std::int64_t TVGR2DItem::BaseScaleHeight() const {
+    return Round(double(BaseHeight()) / double(fOwner.GetMeasure().GetDrawScale()));
+}
+
+float TVGR2DItem::GetWidth() const { return GetValue(BaseWidth(), fOwner.GetUnits()); }
+float TVGR2DItem::GetHeight() const { return GetValue(BaseHeight(), fOwner.GetUnits()); }
+
+void TVGR2DItem::SetWidth(float value) {
+    if (fItemType != itBarcode && value != GetWidth())
+        SetPointX(2, GetPointX(1) + value);
+}
+
+void TVGR2DItem::SetHeight(float value) {
+    if (fItemType != itBarcode && value != GetHeight())
+        SetPointY(2, GetPointY(1) + value);
+}
+
+void TVGR2DItem::SetBaseWidth(std::int64_t value) {
+    if (value == BaseWidth())
+        return;
+    TVGRPosCmd::AddCommand(*this, 2, ptX);
+    SetBaseX(2, AddSat(GetPoint(1).bX, value));
+    UpdateBounds();
+}
+
+void TVGR2DItem::SetBaseHeight(std::int64_t value) {
+    if (value == BaseHeight())
+        return;
+    TVGRPosCmd::AddCommand(*this, 2, ptY);
+    SetBaseY(2, AddSat(GetPoint(1).bY, value));
+    UpdateBounds();
+}
+
+float TVGR2DItem::GetWidthMM() const { return fOwner.GetValMM(BaseScaleWidth()); }
+float TVGR2DItem::GetHeightMM() const { return fOwner.GetValMM(BaseScaleHeight()); }
+
+std::int64_t TVGR2DItem::WidthPx(int dpi) const { return fOwner.ToPixels(BaseWidth(), dpi); }
+std::int64_t TVGR2DItem::HeightPx(int dpi) const { return fOwner.ToPixels(BaseHeight(), dpi); }
+
+void TVGR2DItem::CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt option) const {
+    if (fItemType == itPolygon)
+        TVGRBaseItem::CheckBaseBoundsMove(bx, by, option);
+    else
+        CheckBaseBoundsMoveResize(bx, by, option);
+}
+
+std::unique_ptr<TJsonObject> TVGR2DItem::WriteJson() const {
+    auto json = TVGRBaseItem::WriteJson();
+    json->SetBool(u"Filled", fFill);
+    SetAlphaColor(*json, u"FillColor", fBackColor);
+    return json;
+}
+
+void TVGR2DItem::ReadJson(std::int32_t version, TJsonObject& json) {
+    TVGRBaseItem::ReadJson(version, json);
+    fFill = json.GetBool(u"Filled");
+    fBackColor = GetAlphaColor(json.GetObject(u"FillColor"));
+}
+
+void TVGR2DItem::WriteData(TBinaryWriter& writer) const {
+    TVGRBaseItem::WriteData(writer);
+    writer.Write(fFill);
+    writer.Write(fBackColor);
+}
+
+void TVGR2DItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLReadType type) {
+    TVGRBaseItem::ReadData(version, reader, type);
+    fFill = reader.ReadBool();
+    fBackColor = reader.Read<TAlphaColor>();
+}
+
+} // namespace vagrel

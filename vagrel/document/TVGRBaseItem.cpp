@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+// Life, identity and style of items, and their reports to the document.
+#include <vagrel/document/TVGRBaseItem.h>
+
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/document/TVGRCmd.h>
+#include <vagrel/document/TVGRLayer.h>
+#include <vagrel/foundation/Exceptions.h>
+#include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/Text.h>
+#include <vagrel/foundation/TVGRBaseDraw.h>
+#include <vagrel/foundation/Units.h>
+#include <vagrel/messages/TVGRMsg.h>
+
+#include <cmath>
+
+namespace vagrel {
+
+TVGRBaseItem::TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, bool preview)
+    : TVGRBaseItem(owner, type, owner.GetLayer(1), preview) {}
+
+TVGRBaseItem::TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview)
+    : fOwner(owner), fItemType(type), fLayer(&layer), fPoints(std::size_t(NumPointsItem(type))), fFromPreview(preview) {
+    if (!owner.HasAnyState({lsReading, lsPaste}))
+        fInID = owner.NextID();
+    SetName();
+    owner.Adopt(*this);
+    if (!preview)
+        TVGRCreateCmd::AddCommand(*this);
+}
+
+TVGRBaseItem::~TVGRBaseItem() { fOwner.Forget(*this); }
+
+void TVGRBaseItem::SetName() { fID = std::u16string(NameItem(fItemType)) + IntToStr(fInID, 3); }
+
+void TVGRBaseItem::SetID(std::u16string_view value) {
+    if (value == fID)
+        return;
+    const std::u16string trimmed(Trim(value));
+    if (fOwner.GetOptions().Has(loUniqueID) && fOwner.RepeatID(trimmed, this))
+        throw EInvalidOperation(TVGRMsg::GetErrorValue(u"RepeatID"));
+    fOwner.SetModified(true);
+    fID = trimmed;
+}
+
+void TVGRBaseItem::SetColor(TAlphaColor value) {
+    if (value == fColor)
+        return;
+    TVGRColorCmd::AddCommand(*this, cmd::Color);
+    fColor = value;
+    StateUpdate();
+}
+
+void TVGRBaseItem::SetAngle(TKSLAngle value) {
+    if (value == fAngle)
+        return;
+    TVGREnumValueCmd::AddCommand(*this, cmd::Angle);
+    fAngle = value;
+    StateUpdate();
+}
+
+float TVGRBaseItem::GetPenWidth() const { return GetBaseValue(fPenWidth); }
+
+void TVGRBaseItem::SetPenWidth(float mm) {
+    const std::int32_t value = ToInt32(SetBaseValue(mm));
+    if (value == fPenWidth)
+        return;
+    TVGRBaseValueCmd::AddCommand(*this, cmd::PenWidth);
+    fPenWidth = value;
+}
+
+void TVGRBaseItem::SetLayer(TVGRLayer& value) {
+    if (&value == fLayer)
+        return;
+    fLayer = &value;
+    fOwner.SortItemsZLayer();
+}
+
+bool TVGRBaseItem::Shows(TKSLayerOpts options) const {
+    return fOptions.HasAll(options) && fLayer->GetOptions().HasAll(options);
+}
+
+void TVGRBaseItem::NotifyUpdate(TKSChange change) const { fOwner.ChangeValue(change); }
+void TVGRBaseItem::StateModified() { fOwner.ChangeState(lsModified, *this); }
+void TVGRBaseItem::StateUpdate() { fOwner.ChangeState(Shows({lopVisible}) ? lsUpdate : lsModified, *this); }
+void TVGRBaseItem::StateCalc() { fOwner.ChangeState(Shows({lopVisible}) ? lsCalc : lsCalcNoUpdate, *this); }
+
+void TVGRBaseItem::Keep(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& props, TKSLInpectorBaseTypes keptBase,
+                        TKSLInpectorTypes kept) {
+    base *= keptBase;
+    props *= kept;
+}
+
+void TVGRBaseItem::JsonInspector(TKSLInpectorBaseTypes, TKSLInpectorTypes, TJsonArray&) const {
+    throw ENotAvailable(u"The rows of the inspector are not available yet");
+}
+
+void TVGRBaseItem::FillInspector(TKSLInpectorBaseTypes base, TKSLInpectorTypes props, TJsonArray& rows) const {
+    JsonInspector(base, props, rows);
+}
+
+void TVGRBaseItem::DrawElement(const TVGRBaseDraw& draw) {
+    if ((draw.fState == dsPreview || draw.fState == dsExport) && GetIsData())
+        DrawPreview(draw);
+    else
+        DrawItem(draw);
+}
+
+void TVGRBaseItem::DrawPreview(const TVGRBaseDraw& draw) {
+    for (const auto& copy : fOwner.Preview())
+        if (copy->fInID == fInID && copy->aRow == draw.aRow && copy->aCol == draw.aCol)
+            copy->DrawItem(draw);
+}
+
+float TVGRBaseItem::FromBase(std::int64_t value) const { return float(fOwner.ToPaper(double(value))); }
+
+float TVGRBaseItem::XFromBaseAngle(std::int64_t x, std::int64_t length, double angle) const {
+    return float(fOwner.ToPaper(double(x) + double(length) * std::cos(angle)));
+}
+
+float TVGRBaseItem::YFromBaseAngle(std::int64_t y, std::int64_t length, double angle) const {
+    return float(fOwner.ToPaper(double(y) + double(length) * std::sin(angle)));
+}
+
+} // namespace vagrel

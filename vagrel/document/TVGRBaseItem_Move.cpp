@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: MIT
+// Moving, turning and offsetting an item, and keeping it on the page.
+#include <vagrel/document/TVGRBaseItem.h>
+
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/document/TVGRCmd.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/TDraw2D.h>
+#include <vagrel/foundation/Utils.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace vagrel {
+
+namespace {
+
+using TOptions = TKSLSet<TKSLMoveOpt>;
+
+constexpr TOptions LeftEdge{moLeft, moTopLeft, moBotLeft};
+constexpr TOptions RightEdge{moRight, moTopRight, moBotRight};
+constexpr TOptions TopEdge{moTop, moTopLeft, moTopRight};
+constexpr TOptions BottomEdge{moBottom, moBotLeft, moBotRight};
+
+// Shrinks a move of a span so that it ends inside 0 to `size`. A span that already reaches beyond stays where it is.
+template <class T>
+void ClipMove(T& offset, T low, T high, T size) {
+    if (offset > 0 && offset > size - high)
+        offset = std::max<T>(size - high, 0);
+    else if (offset < 0 && low + offset < 0)
+        offset = std::min<T>(-low, 0);
+}
+
+// The same on integers of any size.
+void ClipBase(std::int64_t& offset, std::int64_t low, std::int64_t high, std::int64_t size) {
+    TInt128 wide = offset;
+    ClipMove<TInt128>(wide, low, high, size);
+    offset = std::int64_t(wide);
+}
+
+// Moves a coordinate, to the grid where that is on and the coordinate moves at all.
+std::int64_t Moved(std::int64_t value, std::int64_t offset, std::int64_t grid) {
+    const std::int64_t moved = AddSat(value, offset);
+    return grid > 0 && offset != 0 ? AdjustGrid(moved, grid, offset > 0) : moved;
+}
+
+// An edge that is dragged: an absolute place where `grid` gives one, else the offset is added.
+void MoveEdge(std::int64_t& value, std::int64_t offset, std::int64_t grid) {
+    value = grid >= 0 ? grid : AddSat(value, offset);
+}
+
+} // namespace
+
+void TVGRBaseItem::BaseMove(std::int64_t bx, std::int64_t by, std::int64_t gx, std::int64_t gy, TKSLMoveOpt option,
+                            bool update) {
+    if (fPoints.empty())
+        return;
+    TVGRElePosCmd::AddCommand(*this);
+    if (option == moAll) {
+        if (gx > 0 || gy >= 1) {
+            bx = SubSat(Moved(At(1).bX, bx, gx), At(1).bX);
+            by = SubSat(Moved(At(1).bY, by, gy), At(1).bY);
+        }
+        for (TKSLPto& point : fPoints)
+            point.BaseMove(bx, by);
+    } else if (fPoints.size() >= 2) {
+        if (LeftEdge.Has(option))
+            MoveEdge(At(1).bX, bx, gx);
+        if (RightEdge.Has(option))
+            MoveEdge(At(2).bX, bx, gx);
+        if (TopEdge.Has(option))
+            MoveEdge(At(1).bY, by, gy);
+        if (BottomEdge.Has(option))
+            MoveEdge(At(2).bY, by, gy);
+    }
+    StateUpdate();
+    if (update)
+        UpdateBounds();
+}
+
+void TVGRBaseItem::Move(float ax, float ay, TKSLMoveOpt option) {
+    const TKSLUnits units = fOwner.GetUnits();
+    if (option == moAll) {
+        for (TKSLPto& point : fPoints)
+            point.Move(ax, ay, units);
+    } else if (fPoints.size() >= 2) {
+        const float dx = option == moLeft ? -ax : option == moRight ? ax : 0;
+        const float dy = option == moTop ? -ay : option == moBottom ? ay : 0;
+        At(2).Move(dx, dy, units);
+        StateCalc();
+    }
+    UpdateBounds();
+}
+
+void TVGRBaseItem::RotateLeft() {
+    fAngle = fAngle == ag270 ? ag0 : TKSLAngle(fAngle + 1);
+    const std::int64_t height = fOwner.GetMeasure().GetSize(mtLabelHeight, true);
+    for (TKSLPto& point : fPoints)
+        point = {point.bY, SubSat(height, point.bX)};
+    NormalizePoints();
+    UpdateBounds();
+}
+
+void TVGRBaseItem::RotateRight() {
+    fAngle = fAngle == ag0 ? ag270 : TKSLAngle(fAngle - 1);
+    const std::int64_t width = fOwner.GetMeasure().GetSize(mtLabelWidth, true);
+    for (TKSLPto& point : fPoints)
+        point = {SubSat(width, point.bY), point.bX};
+    NormalizePoints();
+    UpdateBounds();
+}
+
+void TVGRBaseItem::BoundsMove(float& ax, float& ay) const {
+    if (fItemType == itSector)
+        return;
+    const TVGRMeasure& measure = fOwner.GetMeasure();
+    const int count = fItemType == itArrowLine ? 2 : NumPoints();
+    for (int i = 1; i <= count; ++i) {
+        ClipMove(ax, GetPointX(i), GetPointX(i), measure.WidthUnits());
+        ClipMove(ay, GetPointY(i), GetPointY(i), measure.HeightUnits());
+    }
+}
+
+void TVGRBaseItem::CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt) const {
+    if (fItemType == itSector)
+        return;
+    const TVGRMeasure& measure = fOwner.GetMeasure();
+    const std::int64_t width = measure.GetSize(mtLabelWidth, true), height = measure.GetSize(mtLabelHeight, true);
+    const int count = fItemType == itArrowLine ? 2 : int(fPoints.size());
+    for (int i = 1; i <= count; ++i) {
+        ClipBase(bx, At(i).bX, At(i).bX, width);
+        ClipBase(by, At(i).bY, At(i).bY, height);
+    }
+}
+
+void TVGRBaseItem::CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by) const {
+    if (fItemType == itSector)
+        return;
+    const TVGRMeasure& measure = fOwner.GetMeasure();
+    ClipBase(bx, fBoundsRect.Left, fBoundsRect.Right, measure.GetSize(mtLabelWidth, true));
+    ClipBase(by, fBoundsRect.Top, fBoundsRect.Bottom, measure.GetSize(mtLabelHeight, true));
+}
+
+void TVGRBaseItem::CheckBaseBoundsMoveResize(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt option) const {
+    if (fItemType == itSector)
+        return;
+    const TVGRMeasure& measure = fOwner.GetMeasure();
+    const std::int64_t width = measure.GetSize(mtLabelWidth, true), height = measure.GetSize(mtLabelHeight, true);
+    auto clip = [](std::int64_t& offset, std::int64_t first, std::int64_t second, bool low, bool high, std::int64_t size) {
+        if (low)
+            ClipBase(offset, first, first, size);
+        if (high)
+            ClipBase(offset, second, second, size);
+    };
+    const bool all = option == moAll;
+    const TKSLPto one = GetPoint(1), two = GetPoint(2);
+    clip(bx, one.bX, two.bX, all || LeftEdge.Has(option), all || RightEdge.Has(option), width);
+    clip(by, one.bY, two.bY, all || TopEdge.Has(option), all || BottomEdge.Has(option), height);
+}
+
+void TVGRBaseItem::MoveToGrid(std::int64_t gx, std::int64_t gy, bool right, bool down) {
+    const TKSLPto point = GetPoint(1);
+    fmx = SubSat(AdjustGrid(point.bX, gx, right), point.bX);
+    fmy = SubSat(AdjustGrid(point.bY, gy, down), point.bY);
+    CheckBaseBoundsMove(fmx, fmy, moAll);
+}
+
+bool TVGRBaseItem::MoveToPoint(std::int64_t bx, std::int64_t by) {
+    const TKSLPto point = GetPoint(1);
+    fmx = SubSat(bx, point.bX);
+    fmy = SubSat(by, point.bY);
+    CheckBaseBoundsMove(fmx, fmy, moAll);
+    return fmx != 0 || fmy != 0;
+}
+
+void TVGRBaseItem::BasePointMove(std::int64_t& bx, std::int64_t& by) const {
+    const TVGRMeasure& measure = fOwner.GetMeasure();
+    if (bx < 0 || bx > measure.GetSize(mtLabelWidth, true))
+        bx = -1;
+    if (by < 0 || by > measure.GetSize(mtLabelHeight, true))
+        by = -1;
+}
+
+void TVGRBaseItem::Offset(std::int64_t dist, std::int64_t bx, std::int64_t by, bool closed, TKSLPtoA& points) const {
+    const std::size_t count = fPoints.size();
+    points = fPoints;
+    if (count < 2)
+        return;
+    // The segment that starts at the point nearest to the place tells the side.
+    auto away = [&](const TKSLPto& p) { return std::hypot(double(p.bX) - double(bx), double(p.bY) - double(by)); };
+    std::size_t nearest = 0;
+    for (std::size_t i = 1; i < count; ++i)
+        if (away(fPoints[i]) < away(fPoints[nearest]))
+            nearest = i;
+    if (nearest + 1 == count && !closed)
+        --nearest;
+    auto next = [&](std::size_t i) { return (i + 1) % count; };
+    const TKSLPto a = fPoints[nearest], b = fPoints[next(nearest)];
+    if (TDraw2D::PointSide(a.bX, a.bY, b.bX, b.bY, bx, by) < 0)
+        dist = SubSat(0, dist);
+
+    const std::size_t segments = closed ? count : count - 1;
+    std::vector<TKSLRefLine> moved(segments);
+    for (std::size_t i = 0; i < segments; ++i) {
+        const TKSLPto from = fPoints[i], to = fPoints[next(i)];
+        TKSLRefLine& line = moved[i];
+        line = {from.bX, from.bY, to.bX, to.bY};
+        TDraw2D::DrawParallelLine(from.bX, from.bY, to.bX, to.bY, dist, line.bX1, line.bY1, line.bX2, line.bY2);
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+        if (!closed && i == 0) {
+            points[i] = {moved[0].bX1, moved[0].bY1};
+        } else if (!closed && i + 1 == count) {
+            points[i] = {moved[i - 1].bX2, moved[i - 1].bY2};
+        } else {
+            const TKSLRefLine& before = moved[(i + segments - 1) % segments];
+            const TKSLRefLine& after = moved[i];
+            // Parallel neighbours do not cross; their common vertex is where the earlier one ends.
+            points[i] = {before.bX2, before.bY2};
+            TKSLPto crossing;
+            if (TDraw2D::IntersectLines(before.bX1, before.bY1, before.bX2, before.bY2, after.bX1, after.bY1, after.bX2,
+                                        after.bY2, false, false, crossing.bX, crossing.bY))
+                points[i] = crossing;
+        }
+    }
+}
+
+} // namespace vagrel

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+// The points of an item: access, insertion, bounds, extent.
+#include <vagrel/document/TVGRBaseItem.h>
+
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/document/TVGRCmd.h>
+#include <vagrel/foundation/Rounding.h>
+
+#include <algorithm>
+
+namespace vagrel {
+
+namespace {
+
+// Families whose other points hang on point 1.
+bool DerivesPoints(TKSLItemType type) {
+    constexpr auto types = TKSLSet<TKSLItemType>{itBarcode, itPDF417, itDataMatrix, itQRCode, itTable, itPolyText};
+    return types.Has(type);
+}
+
+bool HasFreePoints(TKSLItemType type) { return type == itPolyLine || type == itPolygon || type == itBezier; }
+
+} // namespace
+
+void TKSLExtent::Widen(std::int64_t x, std::int64_t y, std::int64_t by) {
+    auto lower = [](std::int64_t& limit, std::int64_t value) { limit = limit == -1 ? value : std::min(limit, value); };
+    auto raise = [](std::int64_t& limit, std::int64_t value) { limit = limit == -1 ? value : std::max(limit, value); };
+    lower(minX, SubSat(x, by)), raise(maxX, AddSat(x, by));
+    lower(minY, SubSat(y, by)), raise(maxY, AddSat(y, by));
+}
+
+TKSLPto TVGRBaseItem::GetPoint(int index) const { return InRange(index) ? At(index) : TKSLPto(); }
+
+float TVGRBaseItem::GetPointX(int index) const { return GetPoint(index).GetX(fOwner.GetUnits()); }
+float TVGRBaseItem::GetPointY(int index) const { return GetPoint(index).GetY(fOwner.GetUnits()); }
+float TVGRBaseItem::GetPointMMX(int index) const { return FromBase(GetPoint(index).bX); }
+float TVGRBaseItem::GetPointMMY(int index) const { return FromBase(GetPoint(index).bY); }
+
+void TVGRBaseItem::SetPointX(int index, float value) {
+    if (!InRange(index) || At(index).GetX(fOwner.GetUnits()) == value)
+        return;
+    fOwner.AddState(lsUpdate);
+    TVGRPosCmd::AddCommand(*this, index, ptX);
+    At(index).SetX(value, fOwner.GetUnits());
+    PointStored();
+}
+
+void TVGRBaseItem::SetPointY(int index, float value) {
+    if (!InRange(index) || At(index).GetY(fOwner.GetUnits()) == value)
+        return;
+    fOwner.AddState(lsUpdate);
+    TVGRPosCmd::AddCommand(*this, index, ptY);
+    At(index).SetY(value, fOwner.GetUnits());
+    PointStored();
+}
+
+void TVGRBaseItem::PointStored() {
+    if (fOwner.HasAnyState({lsReading}))
+        return;
+    if (DerivesPoints(fItemType))
+        UpdatePoints();
+    else
+        UpdateBounds();
+}
+
+void TVGRBaseItem::SetPoint(int index, TKSLPto value) {
+    if (InRange(index))
+        At(index) = value;
+}
+
+void TVGRBaseItem::SetBase(int index, std::int64_t x, std::int64_t y) { SetPoint(index, {x, y}); }
+
+void TVGRBaseItem::SetBaseX(int index, std::int64_t x) { SetBase(index, x, GetPoint(index).bY); }
+void TVGRBaseItem::SetBaseY(int index, std::int64_t y) { SetBase(index, GetPoint(index).bX, y); }
+
+bool TVGRBaseItem::DeletePoint(int index) {
+    if (!HasFreePoints(fItemType) || !InRange(index))
+        return false;
+    fPoints.erase(fPoints.begin() + (index - 1));
+    return true;
+}
+
+void TVGRBaseItem::AssignPoints(const TKSLPtoA& points) {
+    std::copy_n(points.begin(), std::min(points.size(), fPoints.size()), fPoints.begin());
+    UpdateBounds();
+}
+
+void TVGRBaseItem::NormalizePoints() {
+    constexpr auto ordered = TKSLSet<TKSLItemType>{itLine, itArrowLine, itText, itDim, itPolyText};
+    if (fPoints.size() == 2 && !ordered.Has(fItemType))
+        TVGRBaseItem::CheckPosition();
+}
+
+void TVGRBaseItem::CheckPosition() {
+    if (fPoints.size() != 2)
+        return;
+    if (At(1).bX > At(2).bX)
+        std::swap(At(1).bX, At(2).bX);
+    if (At(1).bY > At(2).bY)
+        std::swap(At(1).bY, At(2).bY);
+}
+
+bool TVGRBaseItem::InsertPoint(std::int64_t, std::int64_t, std::int64_t) { return false; }
+
+bool TVGRBaseItem::InsertInChain(std::int64_t bx, std::int64_t by, std::int64_t gap) {
+    const int segment = PickLines(bx, by, gap);
+    if (segment < 1)
+        return false;
+    fPoints.insert(fPoints.begin() + segment, TKSLPto{bx, by});
+    return true;
+}
+
+TKSLBase TVGRBaseItem::MeanPoint() const {
+    if (fPoints.empty())
+        return {};
+    TInt128 x = 0, y = 0;
+    for (const TKSLPto& point : fPoints)
+        x += point.bX, y += point.bY;
+    const auto count = TInt128(fPoints.size());
+    return {std::int64_t(x / count), std::int64_t(y / count)};
+}
+
+void TVGRBaseItem::UpdateBounds() {
+    if (fItemType == itText)
+        return;
+    const int first = fItemType == itDim ? 5 : 1;
+    if (fPoints.size() == 2 || fItemType == itArrowLine || fItemType == itDim) {
+        const TKSLPto a = GetPoint(first), b = GetPoint(first + 1);
+        fBoundsRect = {a.bX, a.bY, b.bX, b.bY};
+    } else {
+        // -1 on the left or the top means that there is no value yet.
+        fBoundsRect = TKSLRect::EmptyRect();
+        for (const TKSLPto& point : fPoints) {
+            if (fBoundsRect.Left == -1 || point.bX < fBoundsRect.Left)
+                fBoundsRect.Left = point.bX;
+            if (fBoundsRect.Top == -1 || point.bY < fBoundsRect.Top)
+                fBoundsRect.Top = point.bY;
+            fBoundsRect.Right = std::max(fBoundsRect.Right, point.bX);
+            fBoundsRect.Bottom = std::max(fBoundsRect.Bottom, point.bY);
+        }
+    }
+    fBoundsRect.NormalizeRect();
+}
+
+void TVGRBaseItem::CheckFit(TKSLExtent& extent) const {
+    for (const TKSLPto& point : fPoints)
+        extent.Widen(point.bX, point.bY, fPenWidth / 2);
+}
+
+} // namespace vagrel

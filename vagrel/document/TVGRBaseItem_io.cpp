@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+// The frame that every item shares in the JSON and the binary form, and its name in SVG.
+#include <vagrel/document/TVGRBaseItem.h>
+
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/document/TVGRLayer.h>
+#include <vagrel/foundation/Exceptions.h>
+#include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/Text.h>
+#include <vagrel/foundation/Units.h>
+#include <vagrel/persistence/JsonColors.h>
+#include <vagrel/persistence/TBinaryWriter.h>
+#include <vagrel/persistence/TJsonObject.h>
+
+namespace vagrel {
+
+namespace {
+
+bool HasFreePoints(TKSLItemType type) { return type == itPolyLine || type == itPolygon || type == itBezier; }
+
+} // namespace
+
+std::unique_ptr<TJsonObject> TVGRBaseItem::WriteJson() const {
+    auto json = std::make_unique<TJsonObject>();
+    json->SetInt(u"Type", fItemType);
+    json->SetString(u"TypeName", NameItem(fItemType));
+    json->SetInt(u"InID", fInID);
+    json->SetString(u"ID", fID);
+    json->SetInt(u"Layer", fOwner.LayerIdx(*fLayer));
+    if (fItemType != itSymbol) {
+        json->SetInt(u"Angle", fAngle);
+        SetAlphaColor(*json, u"Color", fColor);
+        json->SetFloat(u"PenWidth", RoundTo3(GetPenWidth()));
+    }
+    TJsonObject& options = json->AddObject(u"Options");
+    options.SetBool(u"Visible", fOptions.Has(lopVisible));
+    options.SetBool(u"Print", fOptions.Has(lopPrint));
+    options.SetBool(u"Selectable", fOptions.Has(lopSelectable));
+    options.SetBool(u"Export", fOptions.Has(lopExport));
+    TJsonArray& points = json->AddArray(u"Points");
+    for (int i = 1; i <= int(fPoints.size()); ++i) {
+        TJsonObject& point = points.AddObject();
+        point.SetFloat(u"X", RoundTo3(GetPointX(i)));
+        point.SetFloat(u"Y", RoundTo3(GetPointY(i)));
+    }
+    return json;
+}
+
+void TVGRBaseItem::ReadJson(std::int32_t, TJsonObject& json) {
+    fInID = json.GetInt(u"InID");
+    fID = json.GetString(u"ID");
+    fOwner.RaiseMaxID(fInID);
+    fLayer = &fOwner.LayerAt(json.GetInt(u"Layer"));
+    if (fItemType != itSymbol) {
+        fAngle = TKSLAngle(json.GetInt(u"Angle"));
+        fColor = GetAlphaColor(json.GetObject(u"Color"));
+        SetPenWidth(float(json.GetFloat(u"PenWidth")));
+    }
+    TJsonObject& options = json.GetObject(u"Options");
+    fOptions = {};
+    fOptions.Put(lopVisible, options.GetBool(u"Visible"));
+    fOptions.Put(lopPrint, options.GetBool(u"Print"));
+    fOptions.Put(lopSelectable, options.GetBool(u"Selectable"));
+    fOptions.Put(lopExport, options.GetBool(u"Export"));
+    TJsonArray& points = json.GetArray(u"Points");
+    if (HasFreePoints(fItemType))
+        fPoints.resize(points.Count());
+    for (std::size_t i = 0; i < points.Count() && i < fPoints.size(); ++i) {
+        TJsonObject& point = points.GetObject(i);
+        SetPointX(int(i) + 1, float(point.GetFloat(u"X")));
+        SetPointY(int(i) + 1, float(point.GetFloat(u"Y")));
+    }
+}
+
+void TVGRBaseItem::WriteData(TBinaryWriter& writer) const {
+    if (fPoints.size() > 32767)
+        throw EOutOfRange(u"The item \"" + fID + u"\" has more points than the binary form can hold: 32767");
+    writer.Write(fInID);
+    writer.Write(fID);
+    writer.Write(std::int16_t(fOwner.LayerIdx(*fLayer)));
+    writer.Write(fColor);
+    writer.Write(fPenWidth);
+    writer.Write(std::int32_t(fAngle));
+    writer.Write(std::int32_t(fOptions.Bits()));
+    writer.Write(std::int16_t(fPoints.size()));
+    for (const TKSLPto& point : fPoints) {
+        writer.Write(point.bX);
+        writer.Write(point.bY);
+    }
+}
+
+void TVGRBaseItem::ReadData(std::int32_t, TBinaryReader& reader, TKSLReadType type) {
+    fInID = reader.Read<std::int32_t>();
+    fID = reader.ReadString();
+    if (type == rdPaste) {
+        fInID = fOwner.NextID();
+        SetName();
+    } else {
+        fOwner.RaiseMaxID(fInID);
+    }
+    fLayer = &fOwner.LayerAt(reader.Read<std::int16_t>());
+    fColor = reader.Read<TAlphaColor>();
+    fPenWidth = reader.Read<std::int32_t>();
+    fAngle = TKSLAngle(reader.Read<std::int32_t>());
+    fOptions = TKSLayerOpts::FromBits(reader.Read<std::uint32_t>());
+    const int count = reader.Read<std::int16_t>();
+    if (count < 0 || std::size_t(count) * 2 * sizeof(std::int64_t) > reader.Left())
+        throw EStreamError("damaged point count at byte " + std::to_string(reader.Position()));
+    if (HasFreePoints(fItemType))
+        fPoints.resize(std::size_t(count));
+    for (int i = 1; i <= count; ++i) {
+        const auto x = reader.Read<std::int64_t>();
+        const auto y = reader.Read<std::int64_t>();
+        SetBase(i, x, y);
+    }
+}
+
+void TVGRBaseItem::FinishRead(TKSLReadType type) {
+    if (type == rdPaste) {
+        BaseMove(fOwner.BaseMoveInc(), 0, 0, 0, moAll, false);
+        BaseMove(0, fOwner.BaseMoveInc(), 0, 0, moAll, false);
+        fOwner.AddToSelection(*this, false);
+    }
+    UpdateBounds();
+}
+
+std::string TVGRBaseItem::GetSVGID(const TSVGOutput& out) const {
+    if (!out.attrID)
+        return {};
+    std::string text = " id=\"";
+    AppendUtf8(text, ReplaceAll(fID, u" ", u""));
+    return text += "\" ";
+}
+
+} // namespace vagrel

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// The parameters of a print run.
+#include <vagrel/document/TVGRBasePrintInfo.h>
+
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/persistence/TJsonObject.h>
+
+#include <algorithm>
+
+namespace vagrel {
+
+float TVGRBasePrintInfo::Restricted(std::int32_t base) const { return fOwner.GetVal(base, true); }
+
+void TVGRBasePrintInfo::Store(std::int32_t& field, float value, TKSLMeasureType limit) {
+    const std::int64_t high = fOwner.GetMeasure().GetSize(limit, false);
+    field = std::int32_t(std::max<std::int64_t>(std::min(fOwner.SetVal(value, false), high), 0));
+}
+
+void TVGRBasePrintInfo::SetNumLabs(std::int32_t value) { fLabs = std::max(value, 1); }
+void TVGRBasePrintInfo::SetRepetition(std::int32_t value) { fRepetition = std::max(value, 1); }
+
+void TVGRBasePrintInfo::SetPrinterIndex(std::int32_t value) {
+    if (value == fPrinterIndex)
+        return;
+    fPrinterIndex = value;
+    fOwner.PrinterChanged();
+}
+
+void TVGRBasePrintInfo::Assign(const TVGRBasePrintInfo& s) {
+    fMaLeft = s.fMaLeft, fMaTop = s.fMaTop, fMaRight = s.fMaRight, fMaBottom = s.fMaBottom;
+    fColor = s.fColor, fWidth = s.fWidth, fHeight = s.fHeight, fLabs = s.fLabs, fRepetition = s.fRepetition;
+    fOrient = s.fOrient, fPrinterIndex = s.fPrinterIndex, fFirstRow = s.fFirstRow;
+}
+
+void TVGRBasePrintInfo::WriteJson(TJsonObject& parent) const {
+    TJsonObject& json = parent.AddObject(u"PrintInfo");
+    json.SetInt(u"NumLabels", fLabs);
+    json.SetInt(u"Repetition", fRepetition);
+    json.SetInt(u"PrinterOrientation", fOrient);
+}
+
+void TVGRBasePrintInfo::ReadJson(TJsonObject& json) {
+    SetNumLabs(json.GetInt(u"NumLabels"));
+    SetRepetition(json.GetInt(u"Repetition"));
+    fOrient = TKSLPrinterOrientation(json.GetInt(u"PrinterOrientation"));
+}
+
+} // namespace vagrel

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+// The parameters of a print run.
+#pragma once
+
+#include <vagrel/foundation/Colors.h>
+#include <vagrel/foundation/Enumerations.h>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace vagrel {
+
+class TJsonObject;
+class TVGRBaseLabel;
+
+/// Margins, counts and printer of a print run. The walk over labels and pages joins with the data merge.
+class TVGRBasePrintInfo {
+public:
+    explicit TVGRBasePrintInfo(TVGRBaseLabel& owner) : fOwner(owner) {}
+    virtual ~TVGRBasePrintInfo() = default;
+
+    // Margins and size: read in the restricted document unit, set in the full one, clamped to 0 and the label's size.
+
+    float GetMarLeft() const { return Restricted(fMaLeft); }
+    float GetMarTop() const { return Restricted(fMaTop); }
+    float GetMarRight() const { return Restricted(fMaRight); }
+    float GetMarBottom() const { return Restricted(fMaBottom); }
+    float GetWidth() const { return Restricted(fWidth); }
+    float GetHeight() const { return Restricted(fHeight); }
+    void SetMarLeft(float value) { Store(fMaLeft, value, mtLabelWidth); }
+    void SetMarTop(float value) { Store(fMaTop, value, mtLabelHeight); }
+    void SetMarRight(float value) { Store(fMaRight, value, mtLabelWidth); }
+    void SetMarBottom(float value) { Store(fMaBottom, value, mtLabelHeight); }
+    void SetWidth(float value) { Store(fWidth, value, mtLabelWidth); }
+    void SetHeight(float value) { Store(fHeight, value, mtLabelHeight); }
+
+    TAlphaColor GetColor() const { return fColor; }
+    void SetColor(TAlphaColor value) { fColor = value; }
+    /// Labels wanted without a source, copies of each record; at least 1.
+    std::int32_t GetNumLabs() const { return fLabs; }
+    void SetNumLabs(std::int32_t value);
+    std::int32_t GetRepetition() const { return fRepetition; }
+    void SetRepetition(std::int32_t value);
+    TKSLPrinterOrientation GetOrient() const { return fOrient; }
+    void SetOrient(TKSLPrinterOrientation value) { fOrient = value; }
+    const std::u16string& GetPrinterName() const { return fPrinterName; }
+    void SetPrinterName(std::u16string_view value) { fPrinterName = value; }
+    std::int32_t GetPrinterIndex() const { return fPrinterIndex; }
+    /// Tells the document on a change.
+    void SetPrinterIndex(std::int32_t value);
+
+    void Assign(const TVGRBasePrintInfo& source);
+
+    void WriteJson(TJsonObject& parent) const;
+    void ReadJson(TJsonObject& json);
+
+protected:
+    TVGRBaseLabel& fOwner;
+    std::int32_t fMaLeft = 15000, fMaTop = 10000, fMaRight = 10000, fMaBottom = 15000;
+    TAlphaColor fColor = 0xFFFF0000;
+    std::int32_t fWidth = 21000, fHeight = 29700;
+    std::int32_t fLabs = 1;
+    std::int32_t fRepetition = 1;
+    std::int32_t fFirstRow = 1, fFirstCol = 1;
+    std::int32_t fFirstLab = 1, fLastLab = 0;
+    std::int32_t fCopies = 1;
+    std::int32_t fPagesToPrint = 0;
+    std::int32_t fLabelsToPrint = 0;
+    std::int32_t fLastPageFill = -1;
+    bool fFindDetail = false;
+    std::int32_t fCurrentPage = 0;
+    std::int32_t fCurrentLabel = 0;
+    TKSLFillType fFillType = ftNone;
+    TKSLPrinterOrientation fOrient = poPortrait;
+    std::u16string fPrinterName;
+    std::int32_t fPrinterIndex = -99;
+
+private:
+    float Restricted(std::int32_t base) const;
+    void Store(std::int32_t& field, float value, TKSLMeasureType limit);
+};
+
+} // namespace vagrel

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+// Properties of a layer and what they do to its items.
+#include <vagrel/document/TVGRLayer.h>
+
+#include <vagrel/document/TVGR2DItem.h>
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/foundation/Exceptions.h>
+#include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/Text.h>
+#include <vagrel/foundation/Units.h>
+#include <vagrel/messages/TVGRMsg.h>
+
+#include <filesystem>
+
+namespace vagrel {
+
+TVGRLayer::TVGRLayer(TVGRBaseLabel& owner)
+    : TVGRLayer(owner, TVGRMsg::GetPropValue(u"Default"), OpaqueBlack, OpaqueWhite) {}
+
+TVGRLayer::TVGRLayer(TVGRBaseLabel& owner, std::u16string_view name, TAlphaColor, TAlphaColor)
+    : fOwner(owner), fName(name) {
+    owner.Adopt(*this);
+}
+
+TVGRLayer::~TVGRLayer() { fOwner.Forget(*this); }
+
+template <class Action>
+void TVGRLayer::ForEachItem(Action action) {
+    const UpdateScope bracket(fOwner);
+    for (int i = 1; i <= fOwner.ItemsCount(); ++i)
+        if (&fOwner.GetItem(i)->GetLayer() == this)
+            action(*fOwner.GetItem(i));
+}
+
+template <class T>
+void TVGRLayer::Change(T& field, T value) {
+    if (value == field)
+        return;
+    field = value;
+    fOwner.SetModified(true);
+}
+
+void TVGRLayer::SetName(std::u16string_view value) {
+    if (value.empty())
+        throw EVagrel(TVGRMsg::GetErrorValue(u"EmptyText"));
+    fName = value;
+}
+
+void TVGRLayer::SetOptions(TKSLayerOpts value) {
+    if (value.HasAll({lopImage, lopMap}))
+        throw EInvalidOperation(u"You cannot select lopImage and lopMap simultaneously");
+    fOptions = value;
+    fOwner.CheckBackLayer();
+}
+
+void TVGRLayer::SetColor(TAlphaColor value, bool apply) {
+    fColor = value;
+    if (apply)
+        ForEachItem([&](TVGRBaseItem& item) { item.SetColor(value); });
+}
+
+void TVGRLayer::SetBackColor(TAlphaColor value, bool apply) {
+    fBackColor = value;
+    if (apply)
+        ForEachItem([&](TVGRBaseItem& item) {
+            if (auto* area = dynamic_cast<TVGR2DItem*>(&item))
+                area->SetBackColor(value);
+        });
+}
+
+void TVGRLayer::SetFontColor(TAlphaColor value, bool apply) {
+    fFontColor = value;
+    if (apply)
+        ForEachItem([&](TVGRBaseItem& item) {
+            if (auto* font = Query<IKSLFont>(&item))
+                font->SetFontColor(value);
+        });
+}
+
+void TVGRLayer::SetValues() {
+    ForEachItem([this](TVGRBaseItem& item) {
+        item.SetColor(fColor);
+        item.StorePenWidth(fPenWidth);
+        if (auto* area = dynamic_cast<TVGR2DItem*>(&item))
+            area->StoreBackColor(fBackColor);
+        if (auto* font = Query<IKSLFont>(&item)) {
+            font->SetFontColor(fFontColor);
+            font->SetFontName(fFontName);
+            font->SetFontHeight(GetFontHeight());
+            font->SetBold(fBold);
+            font->SetItalic(fItalic);
+            font->SetUnderline(fUnderline);
+        }
+    });
+}
+
+float TVGRLayer::GetPenWidth() const { return GetBaseValue(fPenWidth); }
+void TVGRLayer::SetPenWidth(float mm) { fPenWidth = ToInt32(SetBaseValue(mm)); }
+float TVGRLayer::GetFontHeight() const { return GetBaseValue(fFontHeight); }
+void TVGRLayer::SetFontHeight(float mm) { fFontHeight = ToInt32(SetBaseValue(mm)); }
+void TVGRLayer::SetLineType(TKSLineType value) { Change(fLineType, value); }
+void TVGRLayer::SetZPos(std::uint16_t value) { Change(fZPos, value); }
+void TVGRLayer::SetItalic(bool value) { Change(fItalic, value); }
+
+float TVGRLayer::Restricted(std::int32_t base) const { return fOwner.GetVal(base, true); }
+
+void TVGRLayer::StoreMargin(std::int32_t& field, float value, TKSLMeasureType limit) {
+    const std::int64_t size = fOwner.GetMeasure().GetSize(limit, false);
+    std::int64_t base = fOwner.SetVal(value, true);
+    if (base < 0)
+        base = 0;
+    else if (base > size)
+        base = size / 2;
+    Change(field, ToInt32(base));
+}
+
+void TVGRLayer::SetFileImg(std::u16string_view file) {
+    if (file.empty() || file == fFileImg)
+        return;
+    namespace fs = std::filesystem;
+    fArrayB.clear();
+    const fs::path source(ToUtf8(file));
+    const fs::path target = fs::path(ToUtf8(fOwner.GetAbsoluteImagePath())) / source.filename();
+    // A bare name of a file that already lies in the image folder needs no copy.
+    const bool inFolder = source == source.filename() && fs::exists(target);
+    if (!inFolder && !fs::exists(target)) {
+        std::error_code error;
+        if (!fs::copy_file(source, target, error))
+            throw EStreamError("cannot copy \"" + source.string() + "\" to \"" + target.string() + "\": " + error.message());
+    }
+    fFileImg = FromUtf8(source.filename().string());
+    // Compared exactly: ".PNG" counts as any other.
+    const std::string extension = source.extension().string();
+    fImageType = extension == ".png" ? itPng : extension == ".gif" ? itGif : itJpeg;
+    fOwner.CheckBackLayer();
+}
+
+void TVGRLayer::Assign(const TVGRLayer& s) {
+    fName = s.fName, fColor = s.fColor, fBackColor = s.fBackColor, fLineType = s.fLineType, fOptions = s.fOptions;
+    fZPos = s.fZPos, fPenWidth = s.fPenWidth, fBold = s.fBold, fItalic = s.fItalic, fUnderline = s.fUnderline;
+    fFontName = s.fFontName, fFontHeight = s.fFontHeight, fFontColor = s.fFontColor, fFill = s.fFill;
+    fFileImg = s.fFileImg, fEmbeded = s.fEmbeded, fPrintImg = s.fPrintImg;
+    fImgMarLeft = s.fImgMarLeft, fImgMarTop = s.fImgMarTop, fImgMarBottom = s.fImgMarBottom;
+    fImgMarRight = s.fImgMarRight;
+    fZoom = s.fZoom, fMapProvider = s.fMapProvider, fLatitude = s.fLatitude, fLongitude = s.fLongitude;
+    fShowMapCenter = s.fShowMapCenter;
+}
+
+} // namespace vagrel

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+// A layer: visibility and print rules of its items, default style values, and a picture or map behind the sheet.
+#pragma once
+
+#include <vagrel/foundation/Colors.h>
+#include <vagrel/foundation/Enumerations.h>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace vagrel {
+
+class TJsonArray;
+class TJsonObject;
+class TVGRBaseItem;
+class TVGRBaseLabel;
+
+/// A layer adds itself to the layers of its document, which owns it. The first layer of a document is its base layer.
+class TVGRLayer {
+public:
+    /// Named by the property text "Default".
+    explicit TVGRLayer(TVGRBaseLabel& owner);
+    /// The colours are those of a new layer, whatever is given.
+    TVGRLayer(TVGRBaseLabel& owner, std::u16string_view name, TAlphaColor color, TAlphaColor backColor);
+    TVGRLayer(const TVGRLayer&) = delete;
+    TVGRLayer& operator=(const TVGRLayer&) = delete;
+    ~TVGRLayer();
+
+    const std::u16string& GetName() const { return fName; }
+    /// Throws EVagrel for an empty name.
+    void SetName(std::u16string_view value);
+    TKSLayerOpts GetOptions() const { return fOptions; }
+    /// Throws EInvalidOperation for a picture and a map at once.
+    void SetOptions(TKSLayerOpts value);
+
+    TAlphaColor GetColor() const { return fColor; }
+    TAlphaColor GetBackColor() const { return fBackColor; }
+    TAlphaColor GetFontColor() const { return fFontColor; }
+    /// `apply` also gives the colour to the items of the layer.
+    void SetColor(TAlphaColor value, bool apply = false);
+    void SetBackColor(TAlphaColor value, bool apply = false);
+    void SetFontColor(TAlphaColor value, bool apply = false);
+    /// Gives the layer's whole style to its items.
+    void SetValues();
+
+    /// Millimetres.
+    float GetPenWidth() const;
+    void SetPenWidth(float mm);
+    float GetFontHeight() const;
+    void SetFontHeight(float mm);
+    TKSLineType GetLineType() const { return fLineType; }
+    void SetLineType(TKSLineType value);
+    std::uint16_t GetZPos() const { return fZPos; }
+    void SetZPos(std::uint16_t value);
+    bool GetBold() const { return fBold; }
+    void SetBold(bool value) { fBold = value; }
+    bool GetItalic() const { return fItalic; }
+    void SetItalic(bool value);
+    bool GetUnderline() const { return fUnderline; }
+    void SetUnderline(bool value) { fUnderline = value; }
+    bool GetStrikeout() const { return fStrikeout; }
+    void SetStrikeout(bool value) { fStrikeout = value; }
+    bool GetFill() const { return fFill; }
+    void SetFill(bool value) { fFill = value; }
+    const std::u16string& GetFontName() const { return fFontName; }
+    void SetFontName(std::u16string_view value) { fFontName = value; }
+
+    // The background picture. Margins are in the restricted document unit; a margin beyond the label becomes half of it.
+
+    float GetImgMarLeft() const { return Restricted(fImgMarLeft); }
+    float GetImgMarTop() const { return Restricted(fImgMarTop); }
+    float GetImgMarRight() const { return Restricted(fImgMarRight); }
+    float GetImgMarBottom() const { return Restricted(fImgMarBottom); }
+    void SetImgMarLeft(float value) { StoreMargin(fImgMarLeft, value, mtLabelWidth); }
+    void SetImgMarTop(float value) { StoreMargin(fImgMarTop, value, mtLabelHeight); }
+    void SetImgMarRight(float value) { StoreMargin(fImgMarRight, value, mtLabelWidth); }
+    void SetImgMarBottom(float value) { StoreMargin(fImgMarBottom, value, mtLabelHeight); }
+    bool HasImgMargins() const { return fImgMarLeft > 0 || fImgMarTop > 0 || fImgMarRight > 0 || fImgMarBottom > 0; }
+    /// The bare name of the picture's file.
+    const std::u16string& GetFileImg() const { return fFileImg; }
+    /// Copies the file into the document's image folder unless it is there, and takes its bare name. Drops the bytes that
+    /// were held. Throws EStreamError when the copy fails.
+    void SetFileImg(std::u16string_view file);
+    TKSLImgType GetImageType() const { return fImageType; }
+    bool GetEmbeded() const { return fEmbeded; }
+    void SetEmbeded(bool value) { fEmbeded = value; }
+    bool GetPrintImg() const { return fPrintImg; }
+    void SetPrintImg(bool value) { fPrintImg = value; }
+    std::string& ImageBytes() { return fArrayB; }
+    void SetFileImgSize(std::size_t size) { fArrayB.resize(size); }
+
+    // The background map.
+
+    TKSLMapProvider GetMapProvider() const { return fMapProvider; }
+    void SetMapProvider(TKSLMapProvider value) { fMapProvider = value; }
+    std::int16_t GetMapZoom() const { return fZoom; }
+    void SetMapZoom(std::int16_t value) { fZoom = value; }
+    /// Degrees.
+    double GetMapLatitude() const { return fLatitude; }
+    void SetMapLatitude(double value) { fLatitude = value; }
+    double GetMapLongitude() const { return fLongitude; }
+    void SetMapLongitude(double value) { fLongitude = value; }
+    bool GetShowMapCenter() const { return fShowMapCenter; }
+    void SetShowMapCenter(bool value) { fShowMapCenter = value; }
+
+    /// Copies everything but strikeout, the kind of picture and its bytes.
+    void Assign(const TVGRLayer& source);
+
+    void WriteJson(TJsonArray& layers) const;
+    void ReadJson(std::int32_t version, TJsonObject& json);
+
+private:
+    template <class Action>
+    void ForEachItem(Action action);
+    template <class T>
+    void Change(T& field, T value);
+    float Restricted(std::int32_t base) const;
+    void StoreMargin(std::int32_t& field, float value, TKSLMeasureType limit);
+    void WritePicture(TJsonObject& json) const;
+    void WriteMargins(TJsonObject& json) const;
+    void ReadPicture(TJsonObject& json);
+
+    TVGRBaseLabel& fOwner;
+    std::u16string fName;
+    TAlphaColor fColor = OpaqueBlack;
+    TAlphaColor fBackColor = OpaqueWhite;
+    TKSLineType fLineType = iiSolid;
+    TKSLayerOpts fOptions{lopVisible, lopPrint, lopSelectable, lopExport};
+    std::uint16_t fZPos = 0;
+    std::int32_t fPenWidth = 100;
+    bool fBold = false, fItalic = false, fUnderline = false, fStrikeout = false;
+    std::u16string fFontName = u"Arial";
+    std::int32_t fFontHeight = 10000;
+    TAlphaColor fFontColor = OpaqueBlack;
+    bool fFill = true;
+    std::u16string fFileImg;
+    TKSLImgType fImageType = itNone;
+    bool fEmbeded = true;
+    bool fPrintImg = false;
+    std::int32_t fImgMarLeft = 0, fImgMarTop = 0, fImgMarBottom = 0, fImgMarRight = 0;
+    std::int16_t fZoom = 0;
+    TKSLMapProvider fMapProvider = mpOpenStreetMap;
+    double fLatitude = 0, fLongitude = 0;
+    bool fShowMapCenter = false;
+    std::string fArrayB;
+};
+
+} // namespace vagrel

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+// Rules and JSON form of dimension styles.
+#include <vagrel/items/lines/TVGRDimStyle.h>
+
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/Units.h>
+#include <vagrel/persistence/JsonColors.h>
+#include <vagrel/persistence/TJsonObject.h>
+
+#include <algorithm>
+
+namespace vagrel {
+
+TVGRDimStyle::TVGRDimStyle(TVGRBaseLabel& owner) : TVGRDimStyle(owner, {}, 0, 0, false, false) {}
+
+TVGRDimStyle::TVGRDimStyle(TVGRBaseLabel& owner, std::u16string_view name, TAlphaColor, TAlphaColor, bool assignID,
+                           bool active)
+    : fOwner(owner), fName(name), fUnit(owner.GetUnits()) {
+    owner.Adopt(*this);
+    if (assignID)
+        AsignId();
+    if (active)
+        owner.SetActiveDimStyle(owner.DimStylesCount());
+}
+
+TVGRDimStyle::~TVGRDimStyle() { fOwner.Forget(*this); }
+
+void TVGRDimStyle::AsignId() {
+    std::int16_t highest = 0;
+    for (int i = 1; i <= fOwner.DimStylesCount(); ++i)
+        if (const TVGRDimStyle* other = fOwner.GetDimStyle(i); other != this)
+            highest = std::max(highest, other->fID);
+    fID = std::int16_t(highest + 1);
+}
+
+void TVGRDimStyle::StoreLength(std::int32_t& field, float mm, std::int32_t low, std::int32_t high) {
+    const std::int32_t base = std::clamp(ToInt32(SetBaseValue(mm)), low, high);
+    if (base == field)
+        return;
+    field = base;
+    fChanged = true;
+}
+
+void TVGRDimStyle::SetArrowOpen(std::int16_t degrees) {
+    degrees = std::clamp<std::int16_t>(degrees, 4, 22);
+    if (degrees == fArrowOpen)
+        return;
+    fArrowOpen = degrees;
+    fChanged = true;
+}
+
+void TVGRDimStyle::SetDimSpace(float mm) {
+    StoreLength(fDimSpace, mm, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max());
+}
+
+void TVGRDimStyle::SetExtSize(float mm) {
+    StoreLength(fExtSize, mm, 2000, 25000);
+    fExtGap = std::min(fExtGap, fExtSize - 1000);
+}
+
+void TVGRDimStyle::SetExtGap(float mm) { StoreLength(fExtGap, mm, 0, std::min(15000, fExtSize - 1000)); }
+
+void TVGRDimStyle::WriteJson(TJsonArray& styles) const {
+    TJsonObject& json = styles.AddObject();
+    auto length = [](TJsonObject& to, std::u16string_view key, std::int32_t base) {
+        to.SetFloat(key, RoundTo3(GetBaseValue(base)));
+    };
+    json.SetInt(u"ID", fID);
+    json.SetString(u"Name", fName);
+    SetAlphaColor(json, u"DimColor", fDimColor);
+    SetAlphaColor(json, u"FillColor", fFillColor);
+    SetAlphaColor(json, u"ExtColor", fExtColor);
+    SetAlphaColor(json, u"HeadColor", fHeadColor);
+    json.SetInt(u"DimLineType", fDimLineType);
+    length(json, u"DimPenWidth", fDimPenWidth);
+    json.SetInt(u"ExtLineType", fExtLineType);
+    length(json, u"ExtPenWidth", fExtPenWidth);
+    json.SetInt(u"HeadType", fHeadType);
+    length(json, u"HeadSize", fHeadSize);
+    json.SetInt(u"ArrowOpen", fArrowOpen);
+    TJsonObject& font = json.AddObject(u"Font");
+    font.SetString(u"Name", fFontName);
+    font.SetBool(u"Bold", fBold);
+    font.SetBool(u"Italic", fItalic);
+    font.SetBool(u"Underline", fUnderline);
+    font.SetBool(u"Strikeout", fStrikeout);
+    length(font, u"FontHeight", fFontHeight);
+    SetAlphaColor(font, u"FontColor", fFontColor);
+    json.SetInt(u"TextPos", fTextPos);
+    json.SetInt(u"RadialStyle", fRadialStyle);
+    length(json, u"DimBreak", fDimBreak);
+    length(json, u"DimSpace", fDimSpace);
+    length(json, u"ExtSize", fExtSize);
+    length(json, u"ExtGap", fExtGap);
+    json.SetString(u"Format", fFormat);
+    json.SetString(u"Prefix", fPrefix);
+    json.SetString(u"Suffix", fSuffix);
+    json.SetInt(u"Unit", fUnit);
+}
+
+void TVGRDimStyle::ReadFont(TJsonObject& font) {
+    fFontName = font.GetString(u"Name");
+    fBold = font.GetBool(u"Bold");
+    fItalic = font.GetBool(u"Italic");
+    fUnderline = font.GetBool(u"Underline");
+    fStrikeout = font.GetBool(u"Strikeout");
+    SetFontHeight(float(font.GetFloat(u"FontHeight")));
+    fFontColor = GetAlphaColor(font.GetObject(u"FontColor"));
+}
+
+void TVGRDimStyle::ReadJson(std::int32_t, TJsonObject& json) {
+    auto mm = [&](std::u16string_view key) { return float(json.GetFloat(key)); };
+    fID = std::int16_t(json.GetInt(u"ID"));
+    fName = json.GetString(u"Name");
+    fDimColor = GetAlphaColor(json.GetObject(u"DimColor"));
+    fFillColor = GetAlphaColor(json.GetObject(u"FillColor"));
+    fExtColor = GetAlphaColor(json.GetObject(u"ExtColor"));
+    fHeadColor = GetAlphaColor(json.GetObject(u"HeadColor"));
+    fDimLineType = TKSLineType(json.GetInt(u"DimLineType"));
+    SetDimPenWidth(mm(u"DimPenWidth"));
+    fExtLineType = TKSLineType(json.GetInt(u"ExtLineType"));
+    SetExtPenWidth(mm(u"ExtPenWidth"));
+    fHeadType = TKSLTermType(json.GetInt(u"HeadType"));
+    SetHeadSize(mm(u"HeadSize"));
+    SetArrowOpen(std::int16_t(json.GetInt(u"ArrowOpen")));
+    ReadFont(json.GetObject(u"Font"));
+    fTextPos = TKSLTextPos(json.GetInt(u"TextPos"));
+    fRadialStyle = TKSLRadialStyle(json.GetInt(u"RadialStyle"));
+    SetDimBreak(mm(u"DimBreak"));
+    SetDimSpace(mm(u"DimSpace"));
+    SetExtSize(mm(u"ExtSize"));
+    SetExtGap(mm(u"ExtGap"));
+    fFormat = json.GetString(u"Format");
+    fPrefix = json.GetString(u"Prefix");
+    fSuffix = json.GetString(u"Suffix");
+    fUnit = TKSLUnits(json.GetInt(u"Unit"));
+}
+
+} // namespace vagrel

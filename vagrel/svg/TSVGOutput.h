@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// What an item needs to write itself as SVG: the two lists of the document, the form of numbers, and whether to name elements.
+#pragma once
+
+#include <vagrel/svg/SvgElement.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace vagrel {
+
+/// One export. Items append complete elements to `svg`, in the order in which they paint, and shared definitions to `defs`.
+struct TSVGOutput {
+    TKSLExportSVG ExportType = svCurrentUnit;
+    float Factor = 1;
+    bool attrID = false;
+    std::vector<std::string> svg;
+    std::vector<std::string> defs;
+
+    /// An empty element in the export's form of numbers.
+    SvgElement Element() const { return SvgElement(ExportType, Factor); }
+
+    /// True when `defs` already holds the definition that opens with this line.
+    bool Defined(const std::string& opening) const { return std::ranges::find(defs, opening) != defs.end(); }
+};
+
+} // namespace vagrel
