@@ -56,7 +56,7 @@ void RoundTo(TDecimal& decimal, int count) {
     if (!digits.empty()) {
         ++digits.back();
     } else {
-        digits = "1";
+        digits.push_back('1');
         ++decimal.point;
     }
 }

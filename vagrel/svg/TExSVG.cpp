@@ -122,14 +122,10 @@ std::string TExSVG::GetCap(bool aRound) {
 }
 
 std::string TExSVG::GetTextStyle(bool aBold, bool aItalic, bool aUnderline) {
-    std::string out;
-    if (aBold)
-        out += R"(" font-weight="bold)";
-    if (aItalic)
-        out += R"(" font-style="italic)";
-    if (aUnderline)
-        out += R"(" text-decoration="underline)";
-    return out;
+    SvgElement out = Plain();
+    out << (aBold ? R"(" font-weight="bold)" : "") << (aItalic ? R"(" font-style="italic)" : "")
+        << (aUnderline ? R"(" text-decoration="underline)" : "");
+    return out.Take();
 }
 
 std::string TExSVG::GetDegAngle(float aValue) {
