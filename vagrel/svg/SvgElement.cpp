@@ -7,7 +7,6 @@
 
 #include <array>
 #include <cmath>
-#include <utility>
 
 namespace vagrel {
 
@@ -130,6 +129,11 @@ SvgElement& SvgElement::Text(std::u16string_view text) {
     }
 }
 
-std::string SvgElement::Take() { return std::exchange(fText, {}); }
+// A copy of exact size: an export keeps all its elements, and spare room in each of them costs more than copying.
+std::string SvgElement::Take() {
+    std::string out(fText);
+    fText.clear();
+    return out;
+}
 
 } // namespace vagrel

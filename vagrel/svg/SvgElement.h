@@ -49,7 +49,7 @@ public:
 
 private:
     // Most elements are shorter.
-    static constexpr std::size_t Usual = 160;
+    static constexpr std::size_t Usual = 240;
 
     void Length(float value, TKSLUnits unit, TKSLExportSVG type);
     void Paint(std::string_view name, TAlphaColor color);
