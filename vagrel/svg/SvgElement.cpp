@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+// Numbers, colours and texts of SVG elements.
+#include <vagrel/svg/SvgElement.h>
+
+#include <vagrel/foundation/Numbers.h>
+#include <vagrel/foundation/Text.h>
+
+#include <array>
+#include <cmath>
+
+namespace vagrel {
+
+namespace {
+
+constexpr bool IsMode(TKSLExportSVG type) { return type >= svCurrentUnit && type <= svFactorPx; }
+constexpr bool IsScaled(TKSLExportSVG type) { return type == svFactor || type == svFactorPx; }
+
+bool IsWhole(double value) {
+    // Beyond 2^53 there are no fractions, and a cast would not fit much further on.
+    return !(std::fabs(value) < 0x1p53) || double(std::int64_t(value)) == value;
+}
+
+// ii12 is drawn as ii21: documents and their readers rely on it.
+constexpr std::array<std::string_view, 12> Dashes{
+    "",
+    R"( stroke-dasharray="0.5 0.5" )",
+    R"( stroke-dasharray="1" )",
+    R"( stroke-dasharray="2 1" )",
+    R"( stroke-dasharray="2 1" )",
+    R"( stroke-dasharray="2 2" )",
+    R"( stroke-dasharray="3 1" )",
+    R"( stroke-dasharray="3 3" )",
+    R"( stroke-dasharray="4 1" )",
+    R"( stroke-dasharray="4 2" )",
+    R"( stroke-dasharray="4 4" )",
+    R"( stroke-dasharray="4 1 1 1" )",
+};
+
+std::string_view Entity(char16_t unit) {
+    switch (unit) {
+    case u'"':
+        return "&quot;";
+    case u'&':
+        return "&amp;";
+    case u'<':
+        return "&lt;";
+    default:
+        return "&gt;";
+    }
+}
+
+} // namespace
+
+void AppendNumber(std::string& out, double value, int decimals) {
+    AppendFixed(out, value, IsWhole(value) ? 0 : decimals);
+}
+
+SvgElement& SvgElement::operator<<(std::u16string_view text) {
+    AppendUtf8(fText, text);
+    return *this;
+}
+
+SvgElement& SvgElement::Val(float value) {
+    if (IsMode(fType))
+        AppendNumber(fText, IsScaled(fType) ? double(value) * double(fFactor) : double(value), 2);
+    return *this;
+}
+
+void SvgElement::Length(float value, TKSLUnits unit, TKSLExportSVG type) {
+    const double length = IsScaled(type) ? double(value) * double(fFactor) : double(value);
+    if (type == svFactorPx)
+        return AppendNumber(fText, length, 2);
+    const std::string_view suffix = unit == unMM ? "mm" : unit == unCM ? "cm" : unit == unINCH ? "in" : "";
+    if (suffix.empty() || !IsMode(type))
+        return;
+    AppendNumber(fText, length, unit == unMM ? 1 : 2);
+    if (type != svCurUnitNoMed)
+        fText += suffix;
+}
+
+SvgElement& SvgElement::ValUnit(float value, TKSLUnits unit) {
+    Length(value, unit, fType);
+    return *this;
+}
+
+SvgElement& SvgElement::Pen(float width) {
+    Length(width, unMM, svCurUnitNoMed);
+    return *this;
+}
+
+void SvgElement::Paint(std::string_view name, TAlphaColor color) {
+    constexpr char hex[] = "0123456789ABCDEF";
+    char digits[] = "=\"#RRGGBB\"";
+    for (int i = 0; i < 6; ++i)
+        digits[3 + i] = hex[(color >> (20 - 4 * i)) & 15];
+    fText.append(1, ' ').append(name).append(digits, sizeof digits - 1);
+    const std::uint32_t alpha = color >> 24;
+    if (alpha < 255) {
+        fText.append(1, ' ').append(name).append("-opacity=\"");
+        AppendFixed(fText, alpha / 255.0, 1);
+        fText += '"';
+    }
+}
+
+SvgElement& SvgElement::Stroke(TAlphaColor color) {
+    Paint("stroke", color);
+    return *this;
+}
+
+SvgElement& SvgElement::Fill(TAlphaColor color) {
+    Paint("fill", color);
+    return *this;
+}
+
+SvgElement& SvgElement::Dash(TKSLineType type) {
+    if (type >= iiSolid && std::size_t(type) < Dashes.size())
+        fText += Dashes[std::size_t(type)];
+    return *this;
+}
+
+SvgElement& SvgElement::Text(std::u16string_view text) {
+    for (;;) {
+        const std::size_t hit = text.find_first_of(u"\"&<>");
+        AppendUtf8(fText, text.substr(0, hit));
+        if (hit == std::u16string_view::npos)
+            return *this;
+        fText += Entity(text[hit]);
+        text.remove_prefix(hit + 1);
+    }
+}
+
+// A copy of exact size: an export keeps all its elements, and spare room in each of them costs more than copying.
+std::string SvgElement::Take() {
+    std::string out(fText);
+    fText.clear();
+    return out;
+}
+
+} // namespace vagrel
