@@ -97,27 +97,22 @@ void TVGR2DItem::CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by, TKSLMov
         CheckBaseBoundsMoveResize(bx, by, option);
 }
 
-std::unique_ptr<TJsonObject> TVGR2DItem::WriteJson() const {
-    auto json = TVGRBaseItem::WriteJson();
-    json->SetBool(u"Filled", fFill);
-    SetAlphaColor(*json, u"FillColor", fBackColor);
-    return json;
+void TVGR2DItem::WriteKeys(TJsonObject& json) const {
+    json.SetBool(u"Filled", fFill);
+    SetAlphaColor(json, u"FillColor", fBackColor);
 }
 
-void TVGR2DItem::ReadJson(std::int32_t version, TJsonObject& json) {
-    TVGRBaseItem::ReadJson(version, json);
+void TVGR2DItem::ReadKeys(std::int32_t, TJsonObject& json) {
     fFill = json.GetBool(u"Filled");
     fBackColor = GetAlphaColor(json.GetObject(u"FillColor"));
 }
 
-void TVGR2DItem::WriteData(TBinaryWriter& writer) const {
-    TVGRBaseItem::WriteData(writer);
+void TVGR2DItem::WriteFields(TBinaryWriter& writer) const {
     writer.Write(fFill);
     writer.Write(fBackColor);
 }
 
-void TVGR2DItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLReadType type) {
-    TVGRBaseItem::ReadData(version, reader, type);
+void TVGR2DItem::ReadFields(std::int32_t, TBinaryReader& reader) {
     fFill = reader.ReadBool();
     fBackColor = reader.Read<TAlphaColor>();
 }

@@ -40,14 +40,15 @@ public:
     using TVGRBaseItem::CheckBaseBoundsMove;
     void CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt option) const override;
 
-    std::unique_ptr<TJsonObject> WriteJson() const override;
-    void ReadJson(std::int32_t version, TJsonObject& json) override;
-    void WriteData(TBinaryWriter& writer) const override;
-    void ReadData(std::int32_t version, TBinaryReader& reader, TKSLReadType type) override;
 
 protected:
     TVGR2DItem(TVGRBaseLabel& owner, TKSLItemType type, bool preview);
     TVGR2DItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview);
+
+    void WriteKeys(TJsonObject& json) const override;
+    void ReadKeys(std::int32_t version, TJsonObject& json) override;
+    void WriteFields(TBinaryWriter& writer) const override;
+    void ReadFields(std::int32_t version, TBinaryReader& reader) override;
 
     TAlphaColor fBackColor = OpaqueWhite;
     bool fFill = true;

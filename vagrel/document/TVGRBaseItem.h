@@ -49,6 +49,8 @@ public:
     const std::u16string& GetID() const { return fID; }
     /// Stores the trimmed text. Throws EInvalidOperation when identifiers must be unique and another item has this one.
     void SetID(std::u16string_view value);
+    /// Stores an identifier that the system gives, without the test.
+    void SetFixedID(std::u16string_view value) { fID = value; }
     /// The default identifier: the type's name and the number with at least three digits.
     void SetName();
     TKSLItemType GetItemType() const { return fItemType; }
@@ -170,15 +172,23 @@ public:
     virtual void FillData(bool) {}
     /// Recomputes derived geometry: 2 after a change, other values by family.
     virtual void CalcValues(int) {}
+    /// Finds what the item refers to by stored numbers, once everything has been read.
+    virtual void ResolveReferences() {}
+    /// True when the item shows a length with the document's unit.
+    virtual bool ShowsUnits() const { return false; }
     void PreviewPos(std::int16_t column, std::int16_t row) { aCol = column, aRow = row; }
     std::int16_t GetCol() const { return aCol; }
     std::int16_t GetRow() const { return aRow; }
 
     // Persistence and export
 
+    /// The frame of all items, then the keys of the family.
     virtual std::unique_ptr<TJsonObject> WriteJson() const;
-    virtual void ReadJson(std::int32_t version, TJsonObject& object);
+    /// Reads what `WriteJson` writes and updates the bounds.
+    virtual void ReadJson(std::int32_t version, TJsonObject& json);
+    /// The item's type, the frame of all items, then the fields of the family.
     virtual void WriteData(TBinaryWriter& writer) const;
+    /// Reads what follows the type and updates the bounds. A pasted item is moved aside and selected.
     virtual void ReadData(std::int32_t version, TBinaryReader& reader, TKSLReadType type);
     void Write(TBinaryWriter& writer) const { WriteData(writer); }
     virtual void WriteSVG(TSVGOutput& out) const = 0;
@@ -226,8 +236,13 @@ protected:
     bool InRange(int index) const { return index >= 1 && index <= int(fPoints.size()); }
     TKSLPto& At(int index) { return fPoints[std::size_t(index - 1)]; }
     const TKSLPto& At(int index) const { return fPoints[std::size_t(index - 1)]; }
-    /// The end of a binary read: the offset and the selection of a pasted item, then the bounds.
-    void FinishRead(TKSLReadType type);
+    // A family's part of its file forms. An override first calls that of its base class.
+
+    virtual void WriteKeys(TJsonObject&) const {}
+    virtual void ReadKeys(std::int32_t, TJsonObject&) {}
+    virtual void WriteFields(TBinaryWriter&) const {}
+    virtual void ReadFields(std::int32_t, TBinaryReader&) {}
+
     void CheckBaseBoundsMoveResize(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt option) const;
     /// A hit of a snap search, when the place is near the candidate.
     static bool Snap(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLPto candidate, TKSRefType type, TKSLRef& ref);
@@ -236,6 +251,8 @@ protected:
     /// Keeps of two sets only what is given.
     static void Keep(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& props, TKSLInpectorBaseTypes keptBase,
                      TKSLInpectorTypes kept);
+    /// The points from `first` on as "x,y x,y ..." in millimetres on paper.
+    void WritePoints(SvgElement& element, int first) const;
     /// The integer mean of all points, (0, 0) for none.
     TKSLBase MeanPoint() const;
     /// `InsertPoint` of the types whose points form a chain.

@@ -43,10 +43,11 @@ std::unique_ptr<TJsonObject> TVGRBaseItem::WriteJson() const {
         point.SetFloat(u"X", RoundTo3(GetPointX(i)));
         point.SetFloat(u"Y", RoundTo3(GetPointY(i)));
     }
+    WriteKeys(*json);
     return json;
 }
 
-void TVGRBaseItem::ReadJson(std::int32_t, TJsonObject& json) {
+void TVGRBaseItem::ReadJson(std::int32_t version, TJsonObject& json) {
     fInID = json.GetInt(u"InID");
     fID = json.GetString(u"ID");
     fOwner.RaiseMaxID(fInID);
@@ -64,17 +65,20 @@ void TVGRBaseItem::ReadJson(std::int32_t, TJsonObject& json) {
     fOptions.Put(lopExport, options.GetBool(u"Export"));
     TJsonArray& points = json.GetArray(u"Points");
     if (HasFreePoints(fItemType))
-        fPoints.resize(points.Count());
-    for (std::size_t i = 0; i < points.Count() && i < fPoints.size(); ++i) {
-        TJsonObject& point = points.GetObject(i);
-        SetPointX(int(i) + 1, float(point.GetFloat(u"X")));
-        SetPointY(int(i) + 1, float(point.GetFloat(u"Y")));
+        fPoints.resize(std::size_t(points.Count()));
+    for (int i = 1; i <= points.Count() && InRange(i); ++i) {
+        TJsonObject& point = points.GetObject(i - 1);
+        SetPointX(i, float(point.GetFloat(u"X")));
+        SetPointY(i, float(point.GetFloat(u"Y")));
     }
+    ReadKeys(version, json);
+    UpdateBounds();
 }
 
 void TVGRBaseItem::WriteData(TBinaryWriter& writer) const {
     if (fPoints.size() > 32767)
         throw EOutOfRange(u"The item \"" + fID + u"\" has more points than the binary form can hold: 32767");
+    writer.Write(std::int32_t(fItemType));
     writer.Write(fInID);
     writer.Write(fID);
     writer.Write(std::int16_t(fOwner.LayerIdx(*fLayer)));
@@ -87,9 +91,10 @@ void TVGRBaseItem::WriteData(TBinaryWriter& writer) const {
         writer.Write(point.bX);
         writer.Write(point.bY);
     }
+    WriteFields(writer);
 }
 
-void TVGRBaseItem::ReadData(std::int32_t, TBinaryReader& reader, TKSLReadType type) {
+void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLReadType type) {
     fInID = reader.Read<std::int32_t>();
     fID = reader.ReadString();
     if (type == rdPaste) {
@@ -113,9 +118,7 @@ void TVGRBaseItem::ReadData(std::int32_t, TBinaryReader& reader, TKSLReadType ty
         const auto y = reader.Read<std::int64_t>();
         SetBase(i, x, y);
     }
-}
-
-void TVGRBaseItem::FinishRead(TKSLReadType type) {
+    ReadFields(version, reader);
     if (type == rdPaste) {
         BaseMove(fOwner.BaseMoveInc(), 0, 0, 0, moAll, false);
         BaseMove(0, fOwner.BaseMoveInc(), 0, 0, moAll, false);
@@ -130,6 +133,13 @@ std::string TVGRBaseItem::GetSVGID(const TSVGOutput& out) const {
     std::string text = " id=\"";
     AppendUtf8(text, ReplaceAll(fID, u" ", u""));
     return text += "\" ";
+}
+
+void TVGRBaseItem::WritePoints(SvgElement& element, int first) const {
+    for (int i = first; i <= int(fPoints.size()); ++i) {
+        (element << (i > first ? " " : "")).Val(GetPointMMX(i)) << ",";
+        element.Val(GetPointMMY(i));
+    }
 }
 
 } // namespace vagrel

@@ -3,7 +3,6 @@
 #include <vagrel/document/TVGRBasePoint.h>
 
 #include <vagrel/foundation/Rounding.h>
-#include <vagrel/persistence/TBinaryWriter.h>
 
 namespace vagrel {
 
@@ -49,21 +48,6 @@ bool TVGRBasePoint::CheckLink(std::int64_t bx, std::int64_t by, TKSLink& link) c
     link.SetPos(0);
     link.bX = ToInt32(point.bX), link.bY = ToInt32(point.bY);
     return true;
-}
-
-void TVGRBasePoint::ReadJson(std::int32_t version, TJsonObject& json) {
-    TVGRBaseItem::ReadJson(version, json);
-    UpdateBounds();
-}
-
-void TVGRBasePoint::WriteData(TBinaryWriter& writer) const {
-    writer.Write(std::int32_t(itPoint));
-    TVGRBaseItem::WriteData(writer);
-}
-
-void TVGRBasePoint::ReadData(std::int32_t version, TBinaryReader& reader, TKSLReadType type) {
-    TVGRBaseItem::ReadData(version, reader, type);
-    FinishRead(type);
 }
 
 } // namespace vagrel

@@ -26,9 +26,6 @@ public:
     /// Within 1000 base units of the point.
     bool CheckLink(std::int64_t bx, std::int64_t by, TKSLink& link) const override;
 
-    void ReadJson(std::int32_t version, TJsonObject& json) override;
-    void WriteData(TBinaryWriter& writer) const override;
-    void ReadData(std::int32_t version, TBinaryReader& reader, TKSLReadType type) override;
     void WriteSVG(TSVGOutput&) const override {}
 };
 

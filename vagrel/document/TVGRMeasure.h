@@ -75,6 +75,8 @@ public:
     std::int64_t GetDrawScale() const { return fDrawScale; }
     /// Throws EOutOfRange for a scale below 1 or above `GetMaxDrawScale`.
     void SetDrawScale(std::int64_t value);
+    /// Stores 1 and tells nobody.
+    void ResetDrawScale() { fDrawScale = 1; }
     /// The largest scale at which the paper fits into 64 bits.
     std::int64_t GetMaxDrawScale() const { return MaxDrawScaleForPaper(fPaperWidth, fPaperHeight); }
     static std::int64_t MaxDrawScaleForPaper(std::int64_t width, std::int64_t height);

@@ -80,4 +80,9 @@ bool FileExists(const std::string& name) {
     return std::filesystem::exists(name, none) && !std::filesystem::is_directory(name, none);
 }
 
+std::string ProgramFolder() {
+    std::error_code none;
+    return std::filesystem::read_symlink("/proc/self/exe", none).parent_path().string();
+}
+
 } // namespace vagrel

@@ -17,4 +17,7 @@ void WriteFile(const std::string& name, std::string_view bytes);
 /// True when a file of this name exists and is no directory.
 bool FileExists(const std::string& name);
 
+/// The folder of the running program, without a separator at its end.
+std::string ProgramFolder();
+
 } // namespace vagrel

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+// The life of a document, its identifiers and its simple properties.
+#include <vagrel/document/TVGRBaseLabel.h>
+
+#include <vagrel/document/TVGRBackSurf.h>
+#include <vagrel/document/TVGRBaseItem.h>
+#include <vagrel/document/TVGRBasePrintInfo.h>
+#include <vagrel/document/TVGRLayer.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/TVGRSettings.h>
+#include <vagrel/editor/TAct.h>
+#include <vagrel/foundation/Exceptions.h>
+#include <vagrel/foundation/Text.h>
+#include <vagrel/geo/TVGRMapping.h>
+#include <vagrel/items/lines/TVGRDimStyle.h>
+#include <vagrel/merge/TVGRCounter.h>
+#include <vagrel/merge/TVGRData.h>
+#include <vagrel/messages/TVGRMsg.h>
+#include <vagrel/platform/Files.h>
+#include <vagrel/symbols/TVGRBaseLibSymbol.h>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace vagrel {
+
+TVGRBaseLabel* TVGRBaseLabel::Create(TComponent*) {
+    throw EVagrel(u"Can not create TVGRBaseLabel, use a descendant type.");
+}
+
+TVGRBaseLabel::TVGRBaseLabel(TComponent* owner)
+    : TComponent(owner), fPrintInfo(std::make_unique<TVGRBasePrintInfo>(*this)), fData(std::make_unique<TVGRData>(*this)),
+      fMeasure(std::make_unique<TVGRMeasure>(*this)), fMapping(std::make_unique<TVGRMapping>(*this)),
+      fBackSurf(std::make_unique<TVGRBackSurf>(*this, true)), fSettings(std::make_unique<TVGRSettings>(*this)) {
+    NeedFirstLayer();
+    NeedFirstDimStyle();
+}
+
+TVGRBaseLabel::~TVGRBaseLabel() { Teardown(); }
+
+void TVGRBaseLabel::Teardown() {
+    if (fDestroying)
+        return;
+    fDestroying = true;
+    fMemCopy.clear();
+    fObservers.clear();
+    Clear({cleAll, cleBaseLayer, cleBaseStyle}, false);
+}
+
+void TVGRBaseLabel::NeedFirstLayer() {
+    if (fLayers.empty())
+        new TVGRLayer(*this);
+}
+
+void TVGRBaseLabel::NeedFirstDimStyle() {
+    constexpr TAlphaColor grey = 0xFF808080;
+    if (fDimStyles.empty())
+        new TVGRDimStyle(*this, TVGRMsg::GetPropValue(u"Default"), grey, grey, true, true);
+}
+
+void TVGRBaseLabel::Assign(const TVGRBaseLabel& source) {
+    fOptions = source.fOptions;
+    fData->Assign(*source.fData);
+    fBackSurf->Assign(*source.fBackSurf);
+    fMeasure->Assign(*source.fMeasure);
+    fImageFolder = source.fImageFolder;
+    fOpenImgFolder = source.fOpenImgFolder;
+    fLibraryFolder = source.fLibraryFolder;
+}
+
+void TVGRBaseLabel::Loaded() {
+    TComponent::Loaded();
+    if (!fLngFileName.empty())
+        TVGRMsg::LoadResources(fLngFileName);
+    fInfo = TAct::Reset();
+    FireInfoEvent(false);
+    if (!fData->GetJson().empty())
+        fData->CheckJson();
+}
+
+void TVGRBaseLabel::Notification(TComponent* component, TOperation operation) {
+    TComponent::Notification(component, operation);
+    // The observer is half destroyed: its address is compared, nothing of it is called.
+    if (operation == opRemove)
+        std::erase_if(fObservers, [&](const TAttached& attached) { return attached.component == component; });
+    fConEditors = std::ranges::any_of(fObservers, [](const TAttached& attached) { return attached.dest == duEditor; });
+}
+
+void TVGRBaseLabel::New() {
+    Clear({cleAll}, true);
+    fMeasure->Reset();
+}
+
+void TVGRBaseLabel::RaiseMaxID(std::int32_t id) { fMaxID = std::max(fMaxID, id); }
+
+bool TVGRBaseLabel::RepeatID(std::u16string_view id, const TVGRBaseItem* item) const {
+    return std::ranges::any_of(fItems,
+                               [&](const auto& other) { return other.get() != item && SameText(other->GetID(), id); });
+}
+
+TVGRBaseItem* TVGRBaseLabel::SearchItem(std::int32_t id, bool scrollToView) {
+    const auto found = std::ranges::find_if(fItems, [id](const auto& item) { return item->GetInID() == id; });
+    if (found == fItems.end())
+        return nullptr;
+    if (scrollToView)
+        ScrollItem(**found);
+    return found->get();
+}
+
+TVGRBaseItem* TVGRBaseLabel::SearchItem(std::u16string_view id, bool scrollToView) {
+    const auto found = std::ranges::find_if(fItems, [id](const auto& item) { return SameText(item->GetID(), id); });
+    if (found == fItems.end())
+        return nullptr;
+    if (scrollToView)
+        ScrollItem(**found);
+    return found->get();
+}
+
+void TVGRBaseLabel::ScrollItem(TVGRBaseItem& item) { SelectOnly(item, chScrollSelect); }
+
+TVGRBaseItem* TVGRBaseLabel::ElementByID(std::u16string_view id, bool select) {
+    TVGRBaseItem* item = SearchItem(id, false);
+    if (item && select)
+        SelectOnly(*item, chSelect);
+    return item;
+}
+
+void TVGRBaseLabel::SelectOnly(TVGRBaseItem& item, TKSChange change) {
+    ClearSelection(false);
+    AddToSelection(item, false);
+    if (fEditorMode != emInteractive)
+        FillSelPoints();
+    ChangeValue(change);
+}
+
+TKSLEdAction TVGRBaseLabel::GetAction() const { return TAct::GetAction(); }
+TKSLEdState TVGRBaseLabel::GetEditorState() const { return TAct::GetState(); }
+
+void TVGRBaseLabel::SetLngFileName(std::u16string_view value) {
+    if (value == fLngFileName)
+        return;
+    fLngFileName = value;
+    if (!fLngFileName.empty())
+        TVGRMsg::LoadResources(fLngFileName);
+}
+
+std::u16string TVGRBaseLabel::GetAbsoluteImagePath() const {
+    const std::filesystem::path folder(ToUtf8(fImageFolder));
+    return folder.is_absolute() ? fImageFolder : FromUtf8((ProgramFolder() / folder).string());
+}
+
+void TVGRBaseLabel::SetMeasure(const TVGRMeasure& value) { fMeasure->Assign(value); }
+void TVGRBaseLabel::SetBackSurf(const TVGRBackSurf& value) { fBackSurf->Assign(value); }
+void TVGRBaseLabel::SetSettings(const TVGRSettings& value) { fSettings->Assign(value); }
+void TVGRBaseLabel::SetMapping(const TVGRMapping& value) { fMapping->Assign(value); }
+void TVGRBaseLabel::SetData(const TVGRData& value) { fData->Assign(value); }
+
+void TVGRBaseLabel::Undo() { throw ENotAvailable(u"Undo is not available yet"); }
+void TVGRBaseLabel::Redo() { throw ENotAvailable(u"Redo is not available yet"); }
+
+} // namespace vagrel

@@ -1,0 +1,432 @@
+// SPDX-License-Identifier: MIT
+// The document: it owns the items, layers, styles and settings, runs the update cycle and tells its observers.
+//
+// The body of this class is spread by topic: TVGRBaseLabel.cpp (life, identifiers), _Update (update cycle, reading bracket,
+// clearing), _Units (units and values), _Lists (accessors, ownership, layers), _io (JSON), TitleBlock.cpp, svg/SaveSVG.cpp.
+#pragma once
+
+#include <vagrel/document/Events.h>
+#include <vagrel/document/IKSObserver.h>
+#include <vagrel/document/TKSSelectionValue.h>
+#include <vagrel/foundation/TComponent.h>
+
+#include <array>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vagrel {
+
+class IKSLText;
+class TJsonObject;
+class TVGRBackSurf;
+class TVGRBaseItem;
+class TVGRBaseLibSymbol;
+class TVGRBasePrintInfo;
+class TVGRCounter;
+class TVGRData;
+class TVGRDimStyle;
+class TVGRLayer;
+class TVGRMapping;
+class TVGRMeasure;
+class TVGRSettings;
+struct TKSLExtent;
+
+/// A document. Abstract: a host derives its own, which constructs the items, reads and writes files, prints and exports.
+///
+/// Lists are read by accessors that count from 1 and answer null outside; layers fall back to the first one. The document
+/// belongs to one thread, the host's main thread.
+class TVGRBaseLabel : public TComponent {
+public:
+    template <class T>
+    using TOwned = std::vector<std::unique_ptr<T>>;
+
+    /// Always throws: a document is created as one of the host's descendants.
+    [[noreturn]] static TVGRBaseLabel* Create(TComponent* owner);
+    ~TVGRBaseLabel() override;
+
+    /// Copies options, data, background, measure and the three folders of another document.
+    void Assign(const TVGRBaseLabel& source);
+    /// After the host has streamed properties in: language file, action, status texts, stored JSON.
+    void Loaded() override;
+
+    // Life of the document
+
+    /// Clears everything and resets the measure.
+    void New();
+    void Clear(TKSLClearSet what, bool paint);
+    /// Opens the reading of a whole document or of a paste: nothing is recorded, nobody is told.
+    void BeginRead(bool paste);
+    /// Resolves the references of what was read and tells the observers. Finishes its clearing also when stored JSON is bad.
+    void EndRead(bool units);
+    /// Opens an update bracket: what changes in it makes one undo step and one repaint. Brackets are flags, not counters.
+    void BeginUpdate(bool paintOnEnd);
+    void EndUpdate();
+    void EndUpdateSelection();
+    void Refresh();
+    void PaintEditor();
+
+    // Changes
+
+    void ChangeValue(TKSChange change);
+    void ChangeState(TVagrelState state, TVGRBaseItem& item);
+    TKSChangeValue GetChangedValue(TKSChange change) const;
+    void AddState(TVagrelState state) { fStates.Put(state, true); }
+    void RemoveState(TVagrelState state) { fStates.Put(state, false); }
+    TVagrelStateOptions GetStates() const { return fStates; }
+    bool HasAnyState(TVagrelStateOptions states) const { return fStates.HasAny(states); }
+    /// Null and an observer that is attached already are ignored. An editor is told the size of the label at once.
+    void Attach(IKSObserver* observer);
+    void Detach(IKSObserver* observer);
+    /// Sends the status texts to the host; with `checkEditors` only while an editor is attached.
+    void FireInfoEvent(bool checkEditors);
+    /// Asks the host to open the editor of the one selected item; false when it has none.
+    bool DoDblClick();
+
+    // Identifiers
+
+    std::int32_t NextID() { return fMaxID++; }
+    /// The number that `NextID` will give rises to at least `id`.
+    void RaiseMaxID(std::int32_t id);
+    /// True when another item than `item` has this identifier, without regard to case.
+    bool RepeatID(std::u16string_view id, const TVGRBaseItem* item) const;
+    /// By number or by identifier, without regard to case; null when absent. `scrollToView` selects it and scrolls there.
+    TVGRBaseItem* SearchItem(std::int32_t id, bool scrollToView);
+    TVGRBaseItem* SearchItem(std::u16string_view id, bool scrollToView);
+    void ScrollItem(TVGRBaseItem& item);
+    TVGRBaseItem* ElementByID(std::u16string_view id, bool select);
+
+    // Lists
+
+    int ItemsCount() const { return int(fItems.size()); }
+    TVGRBaseItem* GetItem(int index) const;
+    const TOwned<TVGRBaseItem>& Preview() const { return fPreview; }
+    int LayersCount() const { return int(fLayers.size()); }
+    TVGRLayer& GetLayer(int index) const;
+    /// The layer at a zero-based position of a file; the first one out of range.
+    TVGRLayer& LayerAt(int position) const { return GetLayer(position + 1); }
+    /// The zero-based position.
+    int LayerIdx(const TVGRLayer& layer) const;
+    std::vector<std::u16string> GetLayersNames() const;
+    TVGRLayer& ActiveLayer() const;
+    /// False when the layer at this one-based index is active already or does not exist.
+    bool SetActiveLayer(int index);
+    TVGRLayer& AddLayer();
+    /// Moves the layer's items to the base layer and deletes it; false for the base layer and out of range.
+    bool DeleteLayer(int index);
+    /// False when one of them is the base layer or does not exist.
+    bool ExchangeLayers(int index1, int index2);
+    bool GetLayerZOrder() const { return fLayerZOrder; }
+    void SetLayerZOrder(bool value);
+    /// Sorts the items by their layers, stably, when layers decide the paint order.
+    void SortItemsZLayer();
+    /// Finds the topmost visible layer with a picture or a map.
+    void CheckBackLayer();
+    /// One-based; -1 for none.
+    int GetIdxLayerBack() const { return fIdxBack; }
+    bool HasBackMargins() const;
+    int DimStylesCount() const { return int(fDimStyles.size()); }
+    TVGRDimStyle* GetDimStyle(int index) const;
+    TVGRDimStyle& GetActiveDimStyle() const;
+    bool SetActiveDimStyle(int index);
+    int CounterCount() const { return int(fCounters.size()); }
+    TVGRCounter* GetCounter(int index) const;
+    int SymbolCount() const { return int(fSymbols.size()); }
+    TVGRBaseLibSymbol* GetSymbol(int index) const;
+    int SelectionCount() const { return int(fSelection.size()); }
+    TVGRBaseItem* GetSelection(int index) const;
+    bool IsInSelection(std::int32_t id) const;
+    bool Selected(const TVGRBaseItem& item) const;
+    /// Appends to the selection; `notify` tells the observers.
+    void AddToSelection(TVGRBaseItem& item, bool notify);
+    void ClearSelection(bool notify);
+    /// The text of the first selected item when it is a text or a rich text, else null.
+    IKSLText* GetTextObject() const;
+    int SelPointCount() const { return int(fSelPoint.size()); }
+    void AddIntersection(TKSLPto point, std::int32_t id1, std::int32_t id2);
+    /// Takes in the extent of every item that is visible and exported; limits below 0 become 0.
+    void CheckFit(TKSLExtent& extent) const;
+
+    // Ownership: what belongs to a document hands itself over when it is constructed and takes itself out when it dies.
+
+    void Adopt(TVGRBaseItem& item);
+    void Forget(TVGRBaseItem& item);
+    void Adopt(TVGRLayer& layer);
+    void Forget(TVGRLayer& layer);
+    void Adopt(TVGRDimStyle& style);
+    void Forget(TVGRDimStyle& style);
+    void Adopt(TVGRCounter& counter);
+    void Forget(TVGRCounter& counter);
+
+    // Units and values. "Restricted" quantities are shown in millimetres when the document's unit is larger than a centimetre.
+
+    TKSLUnits GetUnits() const { return fUnits; }
+    /// In emLabelling and emFlowChart units larger than a centimetre fall back to millimetres.
+    void SetUnits(TKSLUnits value);
+    std::int64_t SetVal(float value, bool restricted) const;
+    float GetVal(std::int64_t base, bool restricted) const;
+    std::int64_t SetValMM(float mm) const;
+    std::int64_t BaseAsMM(float mm) const { return SetValMM(mm); }
+    /// Base units to millimetres on paper.
+    float GetValMM(std::int64_t base) const { return float(ToPaper(double(base))); }
+    /// The same in double, for places computed in double.
+    double ToPaper(double base) const;
+    /// A length of base coordinates as whole pixels on paper.
+    std::int64_t ToPixels(std::int64_t base, int dpi) const;
+    /// Millimetres to the document's unit.
+    float BaseValue(float mm) const;
+    float GetValFromMM(float mm) const { return BaseValue(mm); }
+    float UnitValue(float value, bool restricted) const;
+    /// 2 mm on paper in base coordinates: the offset of a paste.
+    std::int64_t BaseMoveInc() const;
+    float GetDrawValue(float value, int dpi) const;
+    float GetDrawValue(std::int64_t base, int dpi) const;
+    float GetDataDrawValue(float value, int dpi) const;
+    std::int64_t GetPrintValue(float value, int dpi) const;
+    std::int64_t GetPrintFromBase(std::int64_t base, int dpi) const;
+    float GetDataPrintValue(float px, int dpi) const;
+
+    // Properties
+
+    bool GetEditable() const { return fEditable && fEditorMode != emInteractive; }
+    void SetEditable(bool value) { fEditable = value; }
+    bool GetShowDispWidthHandle() const { return fShowDispWidthHandle; }
+    void SetShowDispWidthHandle(bool value) { fShowDispWidthHandle = value; }
+    TKSLEditorMode GetEditorMode() const { return fEditorMode; }
+    void SetEditorMode(TKSLEditorMode value);
+    /// True in emDrawing and emInteractive, where the draw scale may differ from 1 and dimension styles are stored.
+    bool HasDrawScale() const { return fEditorMode == emDrawing || fEditorMode == emInteractive; }
+    TVagrelOptions GetOptions() const { return fOptions; }
+    void SetOptions(TVagrelOptions value) { fOptions = value; }
+    bool GetModified() const { return fModified; }
+    void SetModified(bool value) { fModified = value; }
+    bool GetUpdate() const { return fUpdate; }
+    std::int32_t GetReadedVersion() const { return fReadedVer; }
+    TKSLAngle GetAngle() const { return fAngle; }
+    TKSLEdAction GetAction() const;
+    TKSLEdState GetEditorState() const;
+    const std::u16string& GetLanguageFileName() const { return fLngFileName; }
+    void SetLngFileName(std::u16string_view value);
+    const std::u16string& GetImageFolder() const { return fImageFolder; }
+    void SetImageFolder(std::u16string_view value) { fImageFolder = value; }
+    const std::u16string& GetOpenImgFolder() const { return fOpenImgFolder; }
+    void SetOpenImgFolder(std::u16string_view value) { fOpenImgFolder = value; }
+    const std::u16string& GetLibraryFolder() const { return fLibraryFolder; }
+    void SetLibraryFolder(std::u16string_view value) { fLibraryFolder = value; }
+    /// The image folder; a relative one lies in the folder of the running program.
+    std::u16string GetAbsoluteImagePath() const;
+
+    TVGRMeasure& GetMeasure() const { return *fMeasure; }
+    TVGRBackSurf& GetBackSurf() const { return *fBackSurf; }
+    TVGRSettings& GetSettings() const { return *fSettings; }
+    TVGRMapping& GetMapping() const { return *fMapping; }
+    TVGRData& GetData() const { return *fData; }
+    TVGRBasePrintInfo& GetPrintInfo() const { return *fPrintInfo; }
+    /// Copy the values of another object.
+    void SetMeasure(const TVGRMeasure& value);
+    void SetBackSurf(const TVGRBackSurf& value);
+    void SetSettings(const TVGRSettings& value);
+    void SetMapping(const TVGRMapping& value);
+    void SetData(const TVGRData& value);
+
+    // Undo
+
+    bool IsUndoEmpty() const { return true; }
+    bool IsRedoEmpty() const { return true; }
+    /// Throw ENotAvailable: changes are not recorded yet.
+    void Undo();
+    void Redo();
+
+    // Title block, files, export
+
+    /// Writes the drawing's title block out of the measure: all of it with `reset`, else the three texts.
+    void FillBoxLayer(bool reset);
+    /// The whole document as a tree.
+    std::unique_ptr<TJsonObject> GetJson() const;
+    std::u16string GetJsonString(bool compact) const;
+    /// Reads everything but "PrintInfo" and "Items", which the host reads.
+    void ReadJson(TJsonObject& json);
+    /// The document as an SVG text in UTF-8.
+    std::string SVG(TKSLExportSVG type, float factor, bool attrID) const;
+    /// Writes the same text to a file, whole or not at all. Throws EStreamError.
+    void SaveSVG(std::u16string_view filename, TKSLExportSVG type, float factor, bool attrID) const;
+
+    // The host's operations. Factories take base coordinates and construct the host's class on the active layer.
+
+    virtual TVGRBaseItem& CreateText(std::int64_t x, std::int64_t y) = 0;
+    virtual TVGRBaseItem& CreatePara(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
+    virtual TVGRBaseItem& CreateRichText(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
+    virtual TVGRBaseItem& CreatePoint(std::int64_t x, std::int64_t y) = 0;
+    virtual TVGRBaseItem& CreateLine(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2) = 0;
+    virtual TVGRBaseItem& CreateArrowLine(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2) = 0;
+    virtual TVGRBaseItem& CreatePolyLine(const TKSLPtoA& points) = 0;
+    virtual TVGRBaseItem& CreateBezier(const TKSLPtoA& points) = 0;
+    virtual TVGRBaseItem& CreateArc(TKSLPto first, TKSLPto second, TKSLPto third) = 0;
+    virtual TVGRBaseItem& CreateRectangle(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
+    virtual TVGRBaseItem& CreatePackage(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
+    virtual TVGRBaseItem& CreatePolygon(const TKSLPtoA& points) = 0;
+    virtual TVGRBaseItem& CreateCircle(TKSLPto center, std::int64_t radius) = 0;
+    virtual TVGRBaseItem& CreateCircle2P(TKSLPto first, TKSLPto second) = 0;
+    virtual TVGRBaseItem& CreateCircle3P(TKSLPto first, TKSLPto second, TKSLPto third) = 0;
+    /// Angles in degrees.
+    virtual TVGRBaseItem& CreateSector(TKSLPto center, std::int64_t radius, float start, float end) = 0;
+    virtual TVGRBaseItem& CreateSector2P(TKSLPto first, TKSLPto second, float start, float end) = 0;
+    virtual TVGRBaseItem& CreateSector3P(TKSLPto first, TKSLPto second, TKSLPto third, float start, float end) = 0;
+    virtual TVGRBaseItem& CreateLevel(TKSLPto center, std::int64_t radius) = 0;
+    virtual TVGRBaseItem& CreateEllipse(TKSLPto center, std::int64_t radiusX, std::int64_t radiusY) = 0;
+    virtual TVGRBaseItem& CreateBarcode(std::int64_t x, std::int64_t y, std::u16string_view text, TKSLBarType type) = 0;
+    virtual TVGRBaseItem& CreatePDF417(std::int64_t x, std::int64_t y, std::u16string_view text) = 0;
+    virtual TVGRBaseItem& CreateDataMatrix(std::int64_t x, std::int64_t y, std::u16string_view text) = 0;
+    virtual TVGRBaseItem& CreateQRCode(std::int64_t x, std::int64_t y, std::u16string_view text) = 0;
+    virtual TVGRBaseItem& CreateImage(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height,
+                                      bool keepAspect, std::u16string_view source) = 0;
+    virtual TVGRBaseItem& CreateFlow(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height,
+                                     TKSLFlowType type) = 0;
+    virtual TVGRBaseItem& CreateLink(const TKSLink& from, const TKSLink& to, TKSLinkType type) = 0;
+    virtual TVGRBaseItem& CreatePolyLink(const TKSLink& from, const TKSLink& to, TKSLinkType type,
+                                         const TKSLPtoA& points) = 0;
+    virtual TVGRBaseItem& CreateTable(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
+    virtual TVGRBaseItem& CreatePolyText(std::int64_t x, std::int64_t y) = 0;
+    virtual TVGRBaseItem& CreateRank(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
+    virtual TVGRBaseItem& CreateNutriScore(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
+    virtual TVGRBaseItem& CreateSymbol(std::int64_t x, std::int64_t y) = 0;
+    virtual TVGRBaseItem& CreateDim(TKSLPto first, TKSLPto second, TKSLPto position) = 0;
+    virtual TVGRBaseItem& CreateDimAng(const TKSLRefLine& first, const TKSLRefLine& second, TKSLPto side) = 0;
+    /// Angles in radians.
+    virtual TVGRBaseItem& CreateDimRad1(TKSLPto center, std::int64_t radius, double angle) = 0;
+    virtual TVGRBaseItem& CreateDimRad2(TKSLPto center, std::int64_t radius, double angle) = 0;
+    virtual TVGRBaseItem& CreateDimDia1(TKSLPto center, std::int64_t radius, double angle) = 0;
+    virtual TVGRBaseItem& CreateDimDia2(TKSLPto center, std::int64_t radius, double angle) = 0;
+    /// The printer index changed.
+    virtual void PrinterChanged() {}
+    /// Reads one item from a snapshot and appends it.
+    virtual TVGRBaseItem& CreateElementFromStream(std::string_view snapshot) = 0;
+    virtual void PasteSelection() = 0;
+    virtual void Print() = 0;
+    /// Exports pages; `page` counts from 1.
+    virtual void ExportDoc(TKSLExport type, std::u16string_view filename, int page, float scale, int quality,
+                           bool checkData, bool transparent, bool fit) = 0;
+    virtual void LoadFromFile(std::u16string_view filename) = 0;
+    virtual void SaveToFile(std::u16string_view filename, TKSLExt format) = 0;
+
+    // Events
+
+    TKSLInfoMsgEvent OnInfoMsg;
+    TKSLGetFontListEvent OnGetFontList;
+    TKSLUndoRedoEvent OnUndoRedo;
+    TKSLReadSymEvent OnReadSym;
+    TKSLSelectItem OnSelectItem;
+    TKSLSelectItem OnUnSelectItem;
+    TNotifyEvent OnLabelRotate;
+    TKSLGMLCoordinateTransformEvent OnGMLCoordinateTransform;
+    TNotifyEvent OnBeforePrint;
+    TNotifyEvent OnAfterPrint;
+
+protected:
+    /// Creates the sub-objects and the first layer and dimension style.
+    explicit TVGRBaseLabel(TComponent* owner);
+
+    /// Ends everything that belongs to the document; a second call does nothing. A host whose items use what the host owns
+    /// calls it first in its own destructor. While it runs nobody is told of anything.
+    void Teardown();
+    void Notification(TComponent* component, TOperation operation) override;
+    /// Takes an item out of every list and destroys it.
+    void FreeItem(TVGRBaseItem& item);
+
+private:
+    /// An observer and what is known of it: it may be half destroyed when it is taken out.
+    struct TAttached {
+        IKSObserver* observer;
+        TComponent* component;
+        TKSDestUpdate dest;
+    };
+
+    void CalcPending();
+    void FinishUpdate();
+    void FillSelPoints();
+    void ResetRefLines();
+    void ResetMultiDragState();
+    void CheckIntersetions();
+    void EmptyIntersect();
+    /// Resolves what items refer to by stored numbers.
+    void AssignSymbolAndFlowLinks();
+    /// Arrow lines that show the unit measure themselves again; true when there is one.
+    bool CheckNeedDrawUnits();
+    void ClearSelectionLists();
+    void FreeItems(TOwned<TVGRBaseItem>& items);
+    void NeedFirstLayer();
+    void NeedFirstDimStyle();
+    bool IsLargeUnit() const { return fUnits >= unDM && fUnits <= unYd; }
+    void SelectOnly(TVGRBaseItem& item, TKSChange change);
+    void FillBoxTexts();
+    void FillBoxItems(TVGRLayer& layer);
+
+    bool fEditable = true;
+    bool fShowDispWidthHandle = false;
+    TKSLEditorMode fEditorMode = emLabelling;
+    TOwned<TVGRLayer> fLayers;
+    std::int32_t fActiveLayer = 0;
+    bool fLayerZOrder = false;
+    TOwned<TVGRDimStyle> fDimStyles;
+    std::int32_t fActiveDimStyle = 0;
+    TOwned<TVGRBaseItem> fItems;
+    TOwned<TVGRBaseItem> fPreview;
+    TOwned<TVGRBaseLibSymbol> fSymbols;
+    std::vector<TIntSecPoint> fIntersect;
+    std::vector<TIntSecPoint> newIntersectList;
+    std::mutex fCriticalSection;
+    TKSLUnits fUnits = unMM;
+    std::unique_ptr<TVGRBasePrintInfo> fPrintInfo;
+    std::unique_ptr<TVGRData> fData;
+    std::vector<TAttached> fObservers;
+    std::unique_ptr<TVGRMeasure> fMeasure;
+    std::unique_ptr<TVGRMapping> fMapping;
+    std::unique_ptr<TVGRBackSurf> fBackSurf;
+    std::unique_ptr<TVGRSettings> fSettings;
+    std::int32_t fReadedVer = 0;
+    bool fUpdate = false;
+    TVagrelOptions fOptions{loUniqueID, loUndoRedo};
+    std::vector<TVGRBaseItem*> fSelection;
+    std::vector<TVGRBaseItem*> fLinks;
+    std::vector<TVGRBaseItem*> fCalcs;
+    TOwned<TVGRCounter> fCounters;
+    std::vector<TKSSelectionValue> fSelPoint;
+    std::u16string fLngFileName;
+    TKSLSInfo fInfo;
+    bool fConEditors = false;
+    std::u16string fImageFolder, fOpenImgFolder, fLibraryFolder;
+    std::int64_t fMultiDragLastX = 0, fMultiDragLastY = 0;
+    bool fMultiDragHasLast = false;
+    TKSChangeValue fChangeVal;
+    TVGRBaseLibSymbol* fCurrentLibSym = nullptr;
+    bool fUndoOpt = false;
+    std::int32_t fMaxID = 1;
+    bool fIncUnReID = true;
+    std::int32_t fUnReID = 0;
+    bool fModified = false;
+    TVagrelStateOptions fStates;
+    std::int32_t fIdxBack = -1;
+    bool fNeedReadImg = false;
+    TKSLAngle fAngle = ag0;
+    std::string fMemCopy;
+    std::array<TKSLRefLine, 4> fRefLines;
+    int fNumRefLines = 0;
+    bool fDestroying = false;
+};
+
+/// An update bracket that closes with its scope, after an exception too.
+class UpdateScope {
+public:
+    explicit UpdateScope(TVGRBaseLabel& label, bool paintOnEnd = true) : fLabel(label) { label.BeginUpdate(paintOnEnd); }
+    UpdateScope(const UpdateScope&) = delete;
+    UpdateScope& operator=(const UpdateScope&) = delete;
+    // Observers that are told at the end may throw.
+    ~UpdateScope() noexcept(false) { fLabel.EndUpdate(); }
+
+private:
+    TVGRBaseLabel& fLabel;
+};
+
+} // namespace vagrel

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+// What a document owns: accessors, adoption, layers.
+#include <vagrel/document/TVGRBaseLabel.h>
+
+#include <vagrel/document/Owned_p.h>
+#include <vagrel/document/TVGRBaseItem.h>
+#include <vagrel/document/TVGRLayer.h>
+#include <vagrel/items/lines/TVGRDimStyle.h>
+#include <vagrel/merge/TVGRCounter.h>
+#include <vagrel/messages/TVGRMsg.h>
+#include <vagrel/symbols/TVGRBaseLibSymbol.h>
+
+#include <algorithm>
+
+namespace vagrel {
+
+namespace {
+
+// The pointer at a one-based index; null outside.
+template <class List>
+auto* At(const List& list, int index) {
+    return index >= 1 && std::size_t(index) <= list.size() ? &*list[std::size_t(index - 1)] : nullptr;
+}
+
+// Lets go of an object that destroys itself; searched from the end, where a failed construction left it.
+template <class T>
+bool Release(std::vector<std::unique_ptr<T>>& list, const T& object) {
+    const auto found = std::find_if(list.rbegin(), list.rend(), [&](const auto& owned) { return owned.get() == &object; });
+    if (found == list.rend())
+        return false;
+    found->release();
+    list.erase(std::next(found).base());
+    return true;
+}
+
+template <class List, class T>
+int IndexOf(const List& list, const T& object) {
+    const auto found = std::ranges::find_if(list, [&](const auto& owned) { return owned.get() == &object; });
+    return found == list.end() ? -1 : int(found - list.begin());
+}
+
+} // namespace
+
+TVGRBaseItem* TVGRBaseLabel::GetItem(int index) const { return At(fItems, index); }
+TVGRDimStyle* TVGRBaseLabel::GetDimStyle(int index) const { return At(fDimStyles, index); }
+TVGRCounter* TVGRBaseLabel::GetCounter(int index) const { return At(fCounters, index); }
+TVGRBaseLibSymbol* TVGRBaseLabel::GetSymbol(int index) const { return At(fSymbols, index); }
+TVGRBaseItem* TVGRBaseLabel::GetSelection(int index) const { return At(fSelection, index); }
+
+TVGRLayer& TVGRBaseLabel::GetLayer(int index) const {
+    TVGRLayer* layer = At(fLayers, index);
+    return layer ? *layer : *fLayers.front();
+}
+
+int TVGRBaseLabel::LayerIdx(const TVGRLayer& layer) const { return IndexOf(fLayers, layer); }
+
+TVGRLayer& TVGRBaseLabel::ActiveLayer() const { return GetLayer(fActiveLayer + 1); }
+
+TVGRDimStyle& TVGRBaseLabel::GetActiveDimStyle() const {
+    TVGRDimStyle* style = GetDimStyle(fActiveDimStyle + 1);
+    return style ? *style : *fDimStyles.front();
+}
+
+std::vector<std::u16string> TVGRBaseLabel::GetLayersNames() const {
+    std::vector<std::u16string> names;
+    for (const auto& layer : fLayers)
+        names.push_back(layer->GetName());
+    return names;
+}
+
+bool TVGRBaseLabel::IsInSelection(std::int32_t id) const {
+    return std::ranges::any_of(fSelection, [id](const TVGRBaseItem* item) { return item->GetInID() == id; });
+}
+
+bool TVGRBaseLabel::Selected(const TVGRBaseItem& item) const {
+    return std::ranges::find(fSelection, &item) != fSelection.end();
+}
+
+void TVGRBaseLabel::CheckFit(TKSLExtent& extent) const {
+    for (const auto& item : fItems)
+        if (item->Shows({lopVisible, lopExport}))
+            item->CheckFit(extent);
+    extent.minX = std::max<std::int64_t>(extent.minX, 0);
+    extent.minY = std::max<std::int64_t>(extent.minY, 0);
+}
+
+void TVGRBaseLabel::Adopt(TVGRBaseItem& item) {
+    if (item.FromPreview()) {
+        fPreview.emplace_back(&item);
+    } else {
+        fItems.emplace_back(&item);
+        fModified = true;
+    }
+}
+
+void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
+    if (!Release(fItems, item))
+        Release(fPreview, item);
+    std::erase(fSelection, &item);
+    std::erase(fLinks, &item);
+    std::erase(fCalcs, &item);
+    std::erase_if(fSelPoint, [&](const TKSSelectionValue& handle) { return handle.Item == &item; });
+    if (!fIntersect.empty()) {
+        const std::scoped_lock guard(fCriticalSection);
+        const std::int32_t id = item.GetInID();
+        std::erase_if(fIntersect, [id](const TIntSecPoint& crossing) { return crossing.fID1 == id || crossing.fID2 == id; });
+    }
+}
+
+void TVGRBaseLabel::FreeItem(TVGRBaseItem& item) {
+    if (const int index = IndexOf(fItems, item); index >= 0)
+        detail::TakeOut(fItems, std::size_t(index));
+}
+
+void TVGRBaseLabel::FreeItems(TOwned<TVGRBaseItem>& items) {
+    // Out of the list first: each one that dies looks for itself there.
+    const TOwned<TVGRBaseItem> dying = std::move(items);
+    items.clear();
+}
+
+void TVGRBaseLabel::Adopt(TVGRLayer& layer) { fLayers.emplace_back(&layer); }
+void TVGRBaseLabel::Forget(TVGRLayer& layer) { Release(fLayers, layer); }
+void TVGRBaseLabel::Adopt(TVGRDimStyle& style) { fDimStyles.emplace_back(&style); }
+void TVGRBaseLabel::Forget(TVGRDimStyle& style) { Release(fDimStyles, style); }
+void TVGRBaseLabel::Adopt(TVGRCounter& counter) { fCounters.emplace_back(&counter); }
+void TVGRBaseLabel::Forget(TVGRCounter& counter) { Release(fCounters, counter); }
+
+bool TVGRBaseLabel::SetActiveLayer(int index) {
+    if (index - 1 == fActiveLayer || !At(fLayers, index))
+        return false;
+    fActiveLayer = index - 1;
+    return true;
+}
+
+bool TVGRBaseLabel::SetActiveDimStyle(int index) {
+    if (index - 1 == fActiveDimStyle || !At(fDimStyles, index))
+        return false;
+    fActiveDimStyle = index - 1;
+    return true;
+}
+
+TVGRLayer& TVGRBaseLabel::AddLayer() {
+    return *new TVGRLayer(*this, TVGRMsg::GetInfoValue(u"NewLayer"), OpaqueBlack, OpaqueWhite);
+}
+
+bool TVGRBaseLabel::DeleteLayer(int index) {
+    if (index < 2 || index > LayersCount())
+        return false;
+    const TVGRLayer& layer = GetLayer(index);
+    for (const auto& items : {&fItems, &fPreview})
+        for (const auto& item : *items)
+            if (&item->GetLayer() == &layer)
+                item->StoreLayer(GetLayer(1));
+    if (fActiveLayer == index - 1)
+        fActiveLayer = 0;
+    else if (fActiveLayer > index - 1)
+        --fActiveLayer;
+    detail::TakeOut(fLayers, std::size_t(index - 1));
+    SortItemsZLayer();
+    CheckBackLayer();
+    fModified = true;
+    return true;
+}
+
+bool TVGRBaseLabel::ExchangeLayers(int index1, int index2) {
+    auto movable = [this](int index) { return index >= 2 && index <= LayersCount(); };
+    if (!movable(index1) || !movable(index2))
+        return false;
+    std::swap(fLayers[std::size_t(index1 - 1)], fLayers[std::size_t(index2 - 1)]);
+    SortItemsZLayer();
+    CheckBackLayer();
+    return true;
+}
+
+void TVGRBaseLabel::SetLayerZOrder(bool value) {
+    if (value == fLayerZOrder)
+        return;
+    fLayerZOrder = value;
+    SortItemsZLayer();
+}
+
+void TVGRBaseLabel::SortItemsZLayer() {
+    if (!fLayerZOrder || fLayers.size() < 2)
+        return;
+    std::ranges::stable_sort(fItems, {}, [this](const auto& item) { return LayerIdx(item->GetLayer()); });
+}
+
+void TVGRBaseLabel::CheckBackLayer() {
+    fIdxBack = -1;
+    for (int i = LayersCount(); i >= 1; --i) {
+        const TKSLayerOpts options = GetLayer(i).GetOptions();
+        if (options.Has(lopVisible) && options.HasAny({lopImage, lopMap})) {
+            fIdxBack = i;
+            fNeedReadImg = true;
+            return;
+        }
+    }
+}
+
+bool TVGRBaseLabel::HasBackMargins() const { return fIdxBack >= 1 && GetLayer(fIdxBack).HasImgMargins(); }
+
+} // namespace vagrel

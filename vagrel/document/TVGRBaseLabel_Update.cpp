@@ -1,0 +1,413 @@
+// SPDX-License-Identifier: MIT
+// The update cycle: reports of items, brackets, observers, reading and clearing.
+#include <vagrel/document/TVGRBaseLabel.h>
+
+#include <vagrel/document/Owned_p.h>
+#include <vagrel/document/TVGRBaseItem.h>
+#include <vagrel/document/TVGRLayer.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/editor/TAct.h>
+#include <vagrel/items/lines/TVGRDimStyle.h>
+#include <vagrel/merge/TVGRCounter.h>
+#include <vagrel/merge/TVGRData.h>
+#include <vagrel/symbols/TVGRBaseLibSymbol.h>
+
+#include <algorithm>
+#include <array>
+#include <exception>
+
+namespace vagrel {
+
+namespace {
+
+using TDests = TKSLSet<TKSDestUpdate>;
+
+constexpr TDests Editor{duEditor};
+constexpr TDests Inspector{duInspector};
+constexpr TDests EditorPreview{duEditor, duPreview};
+constexpr TDests EditorInspector{duEditor, duInspector};
+
+// Who is told of a change.
+constexpr std::array<TDests, chSelSymbol + 1> Audience = [] {
+    std::array<TDests, chSelSymbol + 1> table{};
+    for (TKSChange change : {chLabelDef, chBackSurf, chAligns, chUnits, chClearSelect, chCursor, chSelCur, chPickSel, chSelSymbol})
+        table[change] = Editor;
+    for (TKSChange change : {chMeasure, chPaint, chDraw})
+        table[change] = EditorPreview;
+    for (TKSChange change : {chPropItem, chSelect, chScrollSelect, chText, chChText})
+        table[change] = EditorInspector;
+    for (TKSChange change : {chInspect, chEditInspect, chInspectPoint})
+        table[change] = Inspector;
+    return table;
+}();
+static_assert(Audience[chEndInspect].Empty());
+
+// Runs an action at the end of a scope, also when the scope is left by an exception.
+template <class Action>
+struct TFinally {
+    Action action;
+    ~TFinally() noexcept(false) { action(); }
+};
+template <class Action>
+TFinally(Action) -> TFinally<Action>;
+
+} // namespace
+
+void TVGRBaseLabel::Attach(IKSObserver* observer) {
+    if (!observer || std::ranges::find(fObservers, observer, &TAttached::observer) != fObservers.end())
+        return;
+    auto* component = dynamic_cast<TComponent*>(observer);
+    const TKSDestUpdate dest = observer->GetDest();
+    fObservers.push_back({observer, component, dest});
+    if (component)
+        FreeNotification(*component);
+    if (dest == duEditor) {
+        fConEditors = true;
+        observer->Update(chLabelDef, GetChangedValue(chLabelDef));
+    }
+}
+
+void TVGRBaseLabel::Detach(IKSObserver* observer) {
+    std::erase_if(fObservers, [&](const TAttached& attached) { return attached.observer == observer; });
+    fConEditors = std::ranges::any_of(fObservers, [](const TAttached& attached) { return attached.dest == duEditor; });
+}
+
+TKSChangeValue TVGRBaseLabel::GetChangedValue(TKSChange change) const {
+    TKSChangeValue value;
+    switch (change) {
+    case chLabelDef:
+    case chMeasure:
+        value.fInt1 = fMeasure->GetSize(mtLabelWidth, false);
+        value.fInt2 = fMeasure->GetSize(mtLabelHeight, false);
+        break;
+    case chBackSurf:
+    case chAligns:
+        value.fInt1 = -1;
+        break;
+    case chUnits:
+        value.fInt1 = fUnits;
+        break;
+    case chPaint:
+        value.fInt1 = fUpdate;
+        break;
+    case chDraw:
+    case chCursor:
+        value.fInt1 = TAct::GetAction();
+        value.fInt2 = TAct::GetState();
+        break;
+    case chEditInspect:
+        return fChangeVal;
+    default:
+        break;
+    }
+    return value;
+}
+
+void TVGRBaseLabel::ChangeValue(TKSChange change) {
+    if (fDestroying)
+        return;
+    if (change == chMeasure && fStates.Has(lsUpdating)) {
+        AddState(lsUpdateMeasure);
+        return;
+    }
+    TDests told = Audience[std::size_t(change)];
+    const bool dragging = TAct::GetAction() == eaMove && TAct::GetMoveType() == mtObjects && fSelection.size() > 1;
+    if ((change == chPropItem && dragging) || (change == chScrollSelect && fEditorMode == emInteractive))
+        told.Put(duInspector, false);
+    const TKSChange delivered = change == chChText ? chText : change;
+    const TKSChangeValue value = GetChangedValue(change);
+    // An observer may attach and detach observers; those that are gone are not called any more.
+    const std::vector<TAttached> observers = fObservers;
+    for (const TAttached& attached : observers)
+        if (std::ranges::find(fObservers, attached.observer, &TAttached::observer) != fObservers.end() &&
+            told.Has(attached.observer->GetDest()))
+            attached.observer->Update(delivered, value);
+}
+
+void TVGRBaseLabel::ChangeState(TVagrelState state, TVGRBaseItem& item) {
+    AddState(lsModified);
+    switch (state) {
+    case lsUpdate:
+        fUpdate ? ChangeValue(chPaint) : AddState(lsUpdate);
+        break;
+    case lsUpdateMeasure:
+        fUpdate ? ChangeValue(chMeasure) : AddState(lsUpdateMeasure);
+        break;
+    case lsCalc:
+        AddState(lsUpdate);
+        if (fUpdate) {
+            item.CalcValues(2);
+            ChangeValue(chPaint);
+        } else {
+            if (std::ranges::find(fCalcs, &item) == fCalcs.end())
+                fCalcs.push_back(&item);
+            AddState(lsCalc);
+        }
+        break;
+    case lsCalcNoUpdate:
+        item.CalcValues(2);
+        break;
+    default:
+        break;
+    }
+}
+
+void TVGRBaseLabel::FireInfoEvent(bool checkEditors) {
+    constexpr TKSLSet<TKSLMoveType> vertexMoves{mtBezier, mtBezierCtrl, mtPolyPoint};
+    if (TAct::GetAction() == eaMove && vertexMoves.Has(TAct::GetMoveType()))
+        ChangeValue(chInspectPoint);
+    if (OnInfoMsg && (!checkEditors || fConEditors))
+        OnInfoMsg(*this, fInfo.aAction, fInfo.sState);
+}
+
+void TVGRBaseLabel::BeginUpdate(bool paintOnEnd) {
+    fUpdate = false;
+    AddState(lsUpdating);
+    if (!paintOnEnd)
+        AddState(lsNoPaint);
+    fIncUnReID = false;
+}
+
+void TVGRBaseLabel::CalcPending() {
+    // Calculating one item may ask for another: links follow their shapes.
+    for (std::size_t i = 0; i < fCalcs.size(); ++i)
+        fCalcs[i]->CalcValues(2);
+    fCalcs.clear();
+}
+
+void TVGRBaseLabel::FinishUpdate() {
+    const TFinally clear{[this] {
+        fUpdate = false;
+        fStates -= {lsNoPaint, lsUpdate, lsUpdateMeasure, lsCalc};
+    }};
+    fUpdate = true;
+    FillSelPoints();
+    RemoveState(lsUpdating);
+    if (fStates.Has(lsUpdateMeasure))
+        ChangeValue(chMeasure);
+    else if (fStates.Has(lsUpdate) && !fStates.Has(lsNoPaint))
+        ChangeValue(chPaint);
+}
+
+void TVGRBaseLabel::EndUpdate() {
+    ++fUnReID;
+    fIncUnReID = true;
+    CalcPending();
+    FinishUpdate();
+}
+
+void TVGRBaseLabel::EndUpdateSelection() {
+    fUpdate = true;
+    fModified = false;
+    FillSelPoints();
+    if (fSelection.size() == 1 && GetTextObject()) {
+        ChangeValue(chChText);
+        return;
+    }
+    ChangeValue(chSelect);
+    ChangeValue(chPaint);
+}
+
+void TVGRBaseLabel::Refresh() {
+    fUpdate = true;
+    ChangeValue(chPaint);
+    fUpdate = false;
+}
+
+void TVGRBaseLabel::PaintEditor() {
+    fUpdate = true;
+    ChangeValue(chPaint);
+}
+
+void TVGRBaseLabel::BeginRead(bool paste) {
+    if (!paste) {
+        fMaxID = 1;
+        ResetRefLines();
+        Clear({cleAll}, true);
+    }
+    fUndoOpt = fOptions.Has(loUndoRedo);
+    fStates.Put(lsPaste, paste);
+    fStates += {lsUpdating, lsReading, lsUpdateMeasure};
+    fOptions -= {loUndoRedo};
+    BeginUpdate(true);
+}
+
+void TVGRBaseLabel::EndRead(bool units) {
+    fIncUnReID = true;
+    if (!fStates.Has(lsPaste))
+        ++fMaxID;
+    fStates -= {lsPaste, lsUpdating, lsReading};
+    const TFinally close{[this, units] {
+        fOptions.Put(loUndoRedo, fUndoOpt);
+        if (units)
+            ChangeValue(chUnits);
+        FinishUpdate();
+    }};
+    NeedFirstLayer();
+    NeedFirstDimStyle();
+    AssignSymbolAndFlowLinks();
+    CalcPending();
+    SortItemsZLayer();
+    CheckBackLayer();
+    CheckIntersetions();
+    fModified = false;
+    if (fData->GetSaveJson() && !fData->GetJson().empty())
+        fData->CheckJson();
+}
+
+void TVGRBaseLabel::AssignSymbolAndFlowLinks() {
+    for (const auto& item : fItems)
+        item->ResolveReferences();
+}
+
+bool TVGRBaseLabel::CheckNeedDrawUnits() {
+    bool any = false;
+    for (const auto& item : fItems) {
+        if (item->ShowsUnits()) {
+            item->CalcValues(1);
+            any = true;
+        }
+    }
+    return any;
+}
+
+void TVGRBaseLabel::Clear(TKSLClearSet what, bool paint) {
+    const bool all = what.Has(cleAll);
+    auto holds = [&](TKSLClear part) { return all || what.Has(part); };
+    const bool hadSelection = !fSelection.empty();
+    const bool hadItems = !fItems.empty();
+
+    if (holds(cleUndoRedo)) {
+        fUnReID = 0;
+        if (OnUndoRedo && !fDestroying)
+            OnUndoRedo(*this, true, true);
+    }
+    if (holds(cleItems) || what.Has(cleSelection)) {
+        ClearSelectionLists();
+        ChangeValue(chClearSelect);
+    }
+    if (holds(cleSymbols)) {
+        fSymbols.clear();
+        fCurrentLibSym = nullptr;
+    }
+    if (holds(cleItems)) {
+        EmptyIntersect();
+        fMaxID = 1;
+        fCalcs.clear();
+        FreeItems(fItems);
+    }
+    if (holds(clePreview))
+        FreeItems(fPreview);
+    if (all) {
+        fData->Unlink();
+        fCalcs.clear();
+    }
+    if (holds(cleLayers)) {
+        for (const auto& item : fItems)
+            item->StoreLayer(GetLayer(1));
+        detail::Shrink(fLayers, 1);
+        fActiveLayer = 0;
+    }
+    if (what.Has(cleBaseLayer) && !fLayers.empty())
+        detail::TakeOut(fLayers, 0);
+    if (holds(cleCounters))
+        detail::Shrink(fCounters, 0);
+    if (holds(cleDimStyles)) {
+        detail::Shrink(fDimStyles, 1);
+        fActiveDimStyle = 0;
+    }
+    if (what.Has(cleBaseStyle) && !fDimStyles.empty())
+        detail::TakeOut(fDimStyles, 0);
+    if (what.Has(cleValList))
+        fData->ClearListVal();
+    if (what.Has(cleAskList))
+        fData->ClearAskList();
+
+    fModified = false;
+    if (paint && (hadSelection || hadItems))
+        ChangeValue(chSelect);
+}
+
+void TVGRBaseLabel::ClearSelectionLists() {
+    for (TVGRBaseItem* item : fSelection)
+        item->SetState(isNormal);
+    for (TVGRBaseItem* link : fLinks)
+        link->SetState(isNormal);
+    fSelPoint.clear();
+    fSelection.clear();
+    fLinks.clear();
+}
+
+void TVGRBaseLabel::AddToSelection(TVGRBaseItem& item, bool notify) {
+    item.SetState(isSelected);
+    fSelection.push_back(&item);
+    if (OnSelectItem)
+        OnSelectItem(*this, item);
+    if (notify)
+        ChangeValue(chSelect);
+}
+
+void TVGRBaseLabel::ClearSelection(bool notify) {
+    ResetMultiDragState();
+    for (std::size_t i = 0; i < fSelection.size(); ++i) {
+        fSelection[i]->SetState(isNormal);
+        if (OnUnSelectItem)
+            OnUnSelectItem(*this, *fSelection[i]);
+    }
+    ClearSelectionLists();
+    if (notify)
+        ChangeValue(chSelect);
+}
+
+IKSLText* TVGRBaseLabel::GetTextObject() const {
+    constexpr TKSLSet<TKSLItemType> texts{itText, itRichText};
+    return !fSelection.empty() && texts.Has(fSelection[0]->GetItemType()) ? Query<IKSLText>(fSelection[0]) : nullptr;
+}
+
+bool TVGRBaseLabel::DoDblClick() {
+    struct TRow {
+        TKSLItemType type;
+        TKSLInsProp prop;
+        int kind;
+    };
+    constexpr TRow rows[] = {{itPara, ipMemo, 1},        {itRichText, ipMemo, 1}, {itPDF417, ipMemo, 10},
+                             {itDataMatrix, ipMemo, 11}, {itQRCode, ipMemo, 12},  {itImage, ipImage, 1},
+                             {itFlow, ipMemo, 2},        {itTable, ipTable, 2},   {itPolyText, ipPolyText, 2},
+                             {itPackage, ipMemo, 14}};
+    if (!GetEditable() || fSelection.size() != 1)
+        return false;
+    const auto row = std::ranges::find(rows, fSelection[0]->GetItemType(), &TRow::type);
+    if (row == std::end(rows))
+        return false;
+    fChangeVal.fInt1 = row->prop;
+    fChangeVal.fInt2 = row->kind;
+    fChangeVal.fBool = true;
+    ChangeValue(chEditInspect);
+    return true;
+}
+
+// Handles and crossings join with the editor; until then there are none to rebuild.
+
+void TVGRBaseLabel::FillSelPoints() { fSelPoint.clear(); }
+void TVGRBaseLabel::CheckIntersetions() {}
+
+void TVGRBaseLabel::ResetRefLines() {
+    fRefLines = {};
+    fNumRefLines = 0;
+}
+
+void TVGRBaseLabel::ResetMultiDragState() {
+    fMultiDragLastX = fMultiDragLastY = 0;
+    fMultiDragHasLast = false;
+}
+
+void TVGRBaseLabel::EmptyIntersect() {
+    const std::scoped_lock guard(fCriticalSection);
+    fIntersect.clear();
+}
+
+void TVGRBaseLabel::AddIntersection(TKSLPto point, std::int32_t id1, std::int32_t id2) {
+    newIntersectList.push_back({point, id1, id2});
+}
+
+} // namespace vagrel

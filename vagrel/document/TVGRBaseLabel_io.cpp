@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+// The JSON document: everything but the items, which need the host's classes to be read.
+#include <vagrel/document/TVGRBaseLabel.h>
+
+#include <vagrel/document/TVGRBackSurf.h>
+#include <vagrel/document/TVGRBaseItem.h>
+#include <vagrel/document/TVGRBasePrintInfo.h>
+#include <vagrel/document/TVGRLayer.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/TVGRSettings.h>
+#include <vagrel/foundation/Exceptions.h>
+#include <vagrel/items/lines/TVGRDimStyle.h>
+#include <vagrel/merge/TVGRCounter.h>
+#include <vagrel/merge/TVGRData.h>
+#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/symbols/TVGRBaseLibSymbol.h>
+
+namespace vagrel {
+
+namespace {
+
+constexpr std::int32_t CurrentVersion = 3200;
+constexpr std::int32_t AngleVersion = 3100;
+
+// Constructs one element for each object of an array. An element adds itself to the document.
+template <class T>
+void ReadElements(TVGRBaseLabel& label, std::int32_t version, TJsonArray& array) {
+    for (int i = 0; i < array.Count(); ++i)
+        (new T(label))->ReadJson(version, array.GetObject(i));
+}
+
+template <class List>
+void WriteElements(const List& list, TJsonArray& array) {
+    for (const auto& element : list)
+        element->WriteJson(array);
+}
+
+} // namespace
+
+std::unique_ptr<TJsonObject> TVGRBaseLabel::GetJson() const {
+    auto json = std::make_unique<TJsonObject>();
+    json->SetInt(u"Version", CurrentVersion);
+    json->SetInt(u"EditorMode", fEditorMode);
+    json->SetInt(u"Units", fUnits);
+    json->SetInt(u"Angle", fAngle);
+    fMeasure->WriteJson(*json);
+    fBackSurf->WriteJson(*json);
+    fSettings->WriteJson(*json);
+    fPrintInfo->WriteJson(*json);
+    fData->WriteJson(*json);
+    WriteElements(fSymbols, json->AddArray(u"Symbols"));
+    WriteElements(fLayers, json->AddArray(u"Layers"));
+    if (HasDrawScale())
+        WriteElements(fDimStyles, json->AddArray(u"DimStyles"));
+    WriteElements(fCounters, json->AddArray(u"Counters"));
+    TJsonArray& items = json->AddArray(u"Items");
+    for (const auto& item : fItems)
+        items.Add(item->WriteJson());
+    return json;
+}
+
+std::u16string TVGRBaseLabel::GetJsonString(bool compact) const { return GetJson()->ToJSON(compact); }
+
+void TVGRBaseLabel::ReadJson(TJsonObject& json) {
+    Clear({cleItems, cleLayers, cleBaseLayer, cleCounters, cleSymbols, cleUndoRedo, cleDimStyles}, true);
+    const std::int32_t version = json.GetInt(u"Version");
+    fEditorMode = TKSLEditorMode(json.GetInt(u"EditorMode"));
+    if (HasDrawScale())
+        Clear({cleBaseStyle}, true);
+    fUnits = TKSLUnits(json.GetInt(u"Units"));
+    fAngle = version >= AngleVersion ? TKSLAngle(json.GetInt(u"Angle")) : ag0;
+    // Sizes must not be tested against the scale of the document that stood here before.
+    fMeasure->ResetDrawScale();
+    fMeasure->ReadJson(version, json.GetObject(u"Measures"));
+    fBackSurf->ReadJson(version, json.GetObject(u"BackSurface"));
+    fSettings->ReadJson(version, json.GetObject(u"Settings"));
+    fData->ReadJson(version, json.GetObject(u"Data"));
+    if (json.GetArray(u"Symbols").Count() > 0)
+        throw ENotAvailable(u"Symbols: symbols are not available yet");
+    ReadElements<TVGRLayer>(*this, version, json.GetArray(u"Layers"));
+    NeedFirstLayer();
+    if (HasDrawScale())
+        ReadElements<TVGRDimStyle>(*this, version, json.GetArray(u"DimStyles"));
+    NeedFirstDimStyle();
+    ReadElements<TVGRCounter>(*this, version, json.GetArray(u"Counters"));
+}
+
+} // namespace vagrel

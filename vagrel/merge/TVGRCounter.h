@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+// A counter that numbers labels.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace vagrel {
+
+class TJsonArray;
+class TJsonObject;
+class TVGRBaseLabel;
+
+/// Numbers from `NumFrom` to `NumTo`, each on `Repeat` labels. A counter adds itself to its document, which owns it.
+class TVGRCounter {
+public:
+    explicit TVGRCounter(TVGRBaseLabel& owner);
+    TVGRCounter(const TVGRCounter&) = delete;
+    TVGRCounter& operator=(const TVGRCounter&) = delete;
+    ~TVGRCounter();
+
+    const std::u16string& GetName() const { return fName; }
+    void SetName(std::u16string_view value) { fName = value; }
+    std::int64_t GetNumFrom() const { return fNumFrom; }
+    std::int64_t GetNumTo() const { return fNumTo; }
+    /// Drag the other end along where the range would turn round.
+    void SetNumFrom(std::int64_t value);
+    void SetNumTo(std::int64_t value);
+    std::int16_t GetRepeat() const { return fRepeat; }
+    /// At least 1.
+    void SetRepeat(std::int16_t value);
+    std::int32_t GetStep() const { return fStep; }
+    /// A step of 0 becomes 1.
+    void SetStep(std::int32_t value);
+    const std::u16string& GetBefore() const { return fBefore; }
+    void SetBefore(std::u16string_view value) { fBefore = value; }
+    const std::u16string& GetAfter() const { return fAfter; }
+    void SetAfter(std::u16string_view value) { fAfter = value; }
+    const std::u16string& GetFormat() const { return fFormat; }
+    void SetFormat(std::u16string_view value) { fFormat = value; }
+
+    /// The labels that the counter gives: ((to − from + 1) ÷ step) × repeat, saturating.
+    std::int32_t GetNumLabs() const { return fNumLabs; }
+    void CalcNumLabs();
+
+    void WriteJson(TJsonArray& counters) const;
+    void ReadJson(std::int32_t version, TJsonObject& json);
+
+private:
+    TVGRBaseLabel& fOwner;
+    std::int64_t fNumFrom = 1, fNumTo = 100;
+    std::int16_t fRepeat = 1;
+    std::int32_t fStep = 1;
+    std::u16string fBefore, fAfter, fFormat, fName;
+    std::int64_t fCounter = 0;
+    std::int16_t fRepeatPos = 0;
+    std::u16string fValue;
+    std::int32_t fNumLabs = 0;
+    bool fActive = false;
+};
+
+} // namespace vagrel
