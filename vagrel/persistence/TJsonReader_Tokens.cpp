@@ -285,7 +285,9 @@ std::string TJsonReader<Unit>::Found() const {
             ++end;
     else if (unit >= 0x80)
         return "invalid character";
-    return "\"" + std::string(fAt, end) + "\"";
+    std::string quoted(1, '"');
+    quoted.append(fAt, end);
+    return quoted += '"';
 }
 
 template <class Unit>
