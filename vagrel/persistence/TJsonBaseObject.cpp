@@ -15,6 +15,8 @@ namespace vagrel {
 
 namespace {
 
+constexpr std::size_t CapacityLimit = 1 << 30;
+
 // Values move by their bytes: neither they nor names point into themselves.
 template <class T>
 void Move(T* to, const T* from, std::size_t count) {
@@ -26,7 +28,8 @@ void Move(T* to, const T* from, std::size_t count) {
 
 TJsonBaseObject::~TJsonBaseObject() {
     Clear();
-    ::operator delete(fItems);
+    if (!fInOneBlock)
+        ::operator delete(fItems);
 }
 
 // Walks down to the leaves and frees on the way back. On the way down the link to a child is turned to the parent, so
@@ -59,19 +62,20 @@ void TJsonBaseObject::DropLast() {
         Names()[fCount]->Release();
 }
 
-void TJsonBaseObject::Reserve(std::uint32_t capacity) {
+void TJsonBaseObject::Reserve(std::size_t capacity) {
     if (capacity <= fCapacity)
         return;
-    if (capacity > 0x7FFFFFFF)
+    if (capacity >= CapacityLimit)
         throw EJsonException("Too many values");
-    const std::size_t slot = sizeof(TJsonDataValue) + (fIsObject ? sizeof(TJsonName*) : 0);
-    auto* items = static_cast<TJsonDataValue*>(::operator new(capacity* slot));
+    auto* items = static_cast<TJsonDataValue*>(::operator new(capacity* SlotSize()));
     Move(items, fItems, fCount);
     if (fIsObject)
         Move(reinterpret_cast<TJsonName**>(items + capacity), Names(), fCount);
-    ::operator delete(fItems);
+    if (!fInOneBlock)
+        ::operator delete(fItems);
     fItems = items;
-    fCapacity = capacity & 0x7FFFFFFF;
+    fCapacity = capacity & (CapacityLimit - 1);
+    fInOneBlock = false;
 }
 
 TJsonDataValue& TJsonBaseObject::InsertItem(std::int32_t index, TJsonDataValue value, TJsonName* name) {
@@ -101,7 +105,7 @@ TJsonDataValue TJsonBaseObject::TakeItem(std::int32_t index) {
 
 void TJsonBaseObject::Grow() {
     if (fCount == fCapacity)
-        Reserve(std::max<std::uint32_t>(4, fCapacity + fCapacity / 2));
+        Reserve(std::max<std::size_t>(4, fCapacity + fCapacity / 2));
 }
 
 void TJsonBaseObject::RequireIndex(std::int32_t index, std::int32_t limit) const {
@@ -114,23 +118,34 @@ void TJsonBaseObject::Adopt(std::unique_ptr<TJsonBaseObject> content) {
     Clear();
     if (!content)
         return;
-    std::swap(fItems, content->fItems);
-    std::swap(fCount, content->fCount);
-    const std::uint32_t capacity = fCapacity;
-    fCapacity = content->fCapacity;
-    content->fCapacity = capacity & 0x7FFFFFFF;
+    Reserve(content->fCount);
+    Move(fItems, content->fItems, content->fCount);
+    if (fIsObject)
+        Move(Names(), content->Names(), content->fCount);
+    fCount = std::exchange(content->fCount, 0);
 }
 
-std::unique_ptr<TJsonBaseObject> TJsonBaseObject::New(bool isObject) {
-    if (isObject)
-        return std::make_unique<TJsonObject>();
-    return std::make_unique<TJsonArray>();
+template <class Container>
+std::unique_ptr<TJsonBaseObject> TJsonBaseObject::NewInOneBlock(std::size_t capacity) {
+    static_assert(sizeof(Container) % alignof(TJsonDataValue) == 0);
+    const std::size_t slot = sizeof(TJsonDataValue) + (std::same_as<Container, TJsonObject> ? sizeof(TJsonName*) : 0);
+    if (capacity >= CapacityLimit)
+        throw EJsonException("Too many values");
+    void* block = ::operator new(sizeof(Container) + capacity * slot);
+    std::unique_ptr<TJsonBaseObject> container(::new (block) Container);
+    container->fItems = reinterpret_cast<TJsonDataValue*>(static_cast<std::byte*>(block) + sizeof(Container));
+    container->fCapacity = capacity & (CapacityLimit - 1);
+    container->fInOneBlock = true;
+    return container;
+}
+
+std::unique_ptr<TJsonBaseObject> TJsonBaseObject::New(bool isObject, std::size_t capacity) {
+    return isObject ? NewInOneBlock<TJsonObject>(capacity) : NewInOneBlock<TJsonArray>(capacity);
 }
 
 std::unique_ptr<TJsonBaseObject> TJsonTreeBuilder::Build(bool isObject, TJsonDataValue* values, TJsonName* const* names,
                                                          std::size_t count) {
-    auto container = TJsonBaseObject::New(isObject);
-    container->Reserve(std::uint32_t(std::min<std::size_t>(count, 0x80000000)));
+    auto container = TJsonBaseObject::New(isObject, count);
     for (std::size_t i = 0; i < count; ++i)
         new (container->fItems + i) TJsonDataValue(std::move(values[i]));
     for (std::size_t i = 0; isObject && i < count; ++i)
@@ -149,12 +164,7 @@ std::unique_ptr<TJsonBaseObject> TJsonBaseObject::Clone() const {
         const TJsonBaseObject* from;
         TJsonBaseObject* to;
     };
-    auto copyOf = [](const TJsonBaseObject* from) {
-        auto copy = New(from->fIsObject);
-        copy->Reserve(from->fCount);
-        return copy;
-    };
-    auto root = copyOf(this);
+    auto root = New(fIsObject, fCount);
     std::vector<TStep> open{{this, root.get()}};
     while (!open.empty()) {
         const auto [from, to] = open.back();
@@ -166,7 +176,7 @@ std::unique_ptr<TJsonBaseObject> TJsonBaseObject::Clone() const {
         const TJsonBaseObject* child = value.Container();
         TJsonDataValue copy;
         if (child) {
-            auto childCopy = copyOf(child);
+            auto childCopy = New(child->fIsObject, child->fCount);
             open.push_back({child, childCopy.get()});
             copy = TJsonDataValue(value.GetTyp(), childCopy.release());
         } else {

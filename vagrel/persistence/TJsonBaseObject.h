@@ -25,6 +25,7 @@ public:
     TJsonBaseObject(const TJsonBaseObject&) = delete;
     TJsonBaseObject& operator=(const TJsonBaseObject&) = delete;
     virtual ~TJsonBaseObject();
+    static void operator delete(void* block) { ::operator delete(block); }
 
     /// The object or array of a text; null for a blank one. Throws EJsonParserException.
     static std::unique_ptr<TJsonBaseObject> FromJSON(std::u16string_view text,
@@ -84,12 +85,16 @@ protected:
     /// Puts a value at `index`, where room is; of an object `name` belongs to it then.
     TJsonDataValue& InsertItem(std::int32_t index, TJsonDataValue value, TJsonName* name);
     TJsonDataValue TakeItem(std::int32_t index);
-    void Reserve(std::uint32_t capacity);
+    void Reserve(std::size_t capacity);
     void RequireIndex(std::int32_t index, std::int32_t limit) const;
-    static std::unique_ptr<TJsonBaseObject> New(bool isObject);
+    /// An empty container of this capacity, in one block with its storage.
+    static std::unique_ptr<TJsonBaseObject> New(bool isObject, std::size_t capacity);
 
 private:
     friend class TJsonTreeBuilder;
+    template <class Container>
+    static std::unique_ptr<TJsonBaseObject> NewInOneBlock(std::size_t capacity);
+    std::size_t SlotSize() const { return sizeof(TJsonDataValue) + (fIsObject ? sizeof(TJsonName*) : 0); }
     virtual void ForgetSearch() {}
     void DropLast();
     void Adopt(std::unique_ptr<TJsonBaseObject> content);
@@ -99,8 +104,9 @@ private:
 
     TJsonDataValue* fItems = nullptr; // fCapacity values; behind them, of an object, fCapacity names
     std::uint32_t fCount = 0;
-    std::uint32_t fCapacity : 31 = 0;
+    std::uint32_t fCapacity : 30 = 0;
     std::uint32_t fIsObject : 1;
+    std::uint32_t fInOneBlock : 1 = 0; // fItems stand behind the container in its own block
 };
 
 } // namespace vagrel

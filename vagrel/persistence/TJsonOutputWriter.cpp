@@ -63,25 +63,32 @@ Unit* PutUtf8(Unit* at, char32_t code) {
 } // namespace
 
 template <class Unit>
-TJsonOutputWriter<Unit>::TJsonOutputWriter(bool compact, TFlush flush) : fCompact(compact), fFlush(std::move(flush)) {
-    fLineBreak = As<Unit>(TJsonSerializationConfig::Instance().LineBreak);
+TJsonOutputWriter<Unit>::TJsonOutputWriter(bool compact, TFlush flush)
+    : fCompact(compact), fFlush(std::move(flush)), fLineBreak(As<Unit>(TJsonSerializationConfig::Instance().LineBreak)),
+      fIndent(As<Unit>(TJsonSerializationConfig::Instance().IndentChar)), fMargin(fLineBreak) {}
+
+template <class Unit>
+void TJsonOutputWriter<Unit>::FlushPiece() {
+    fFlush({fText.data(), std::size_t(fAt - fText.data())});
+    fAt = fText.data();
 }
 
-// Room for so many units more; the caller advances fUsed.
 template <class Unit>
-Unit* TJsonOutputWriter<Unit>::Room(std::size_t units) {
-    if (fFlush && fUsed >= PieceSize)
-        fFlush({fText.data(), std::exchange(fUsed, 0)});
-    if (fText.size() - fUsed < units)
-        fText.resize(std::max(fText.size() * 2, fUsed + units + 1024));
-    return fText.data() + fUsed;
+void TJsonOutputWriter<Unit>::MakeRoom(std::size_t units) {
+    if (fFlush && fAt)
+        FlushPiece();
+    const std::size_t used = fAt ? std::size_t(fAt - fText.data()) : 0;
+    if (fText.size() - used < units)
+        fText.resize(std::max({fText.size() * 2, used + units, PieceSize}));
+    fAt = fText.data() + used;
+    fLimit = fText.data() + fText.size();
 }
 
 template <class Unit>
 std::basic_string<Unit> TJsonOutputWriter<Unit>::Finish() {
     if (fFlush)
-        fFlush({fText.data(), std::exchange(fUsed, 0)});
-    fText.resize(fUsed);
+        FlushPiece();
+    fText.resize(std::size_t(fAt - fText.data()));
     return std::move(fText);
 }
 
@@ -96,7 +103,7 @@ void TJsonOutputWriter<Unit>::Write(const TJsonBaseObject& root) {
         if (container.Count() == 0)
             WriteAscii(container.IsObject() ? "{}" : "[]");
         else {
-            WriteAscii(container.IsObject() ? "{" : "[");
+            WriteOne(container.IsObject() ? '{' : '[');
             open.push_back({&container, 0});
         }
     };
@@ -107,11 +114,11 @@ void TJsonOutputWriter<Unit>::Write(const TJsonBaseObject& root) {
         if (index == container.Count()) {
             open.pop_back();
             Break(open.size());
-            WriteAscii(container.IsObject() ? "}" : "]");
+            WriteOne(container.IsObject() ? '}' : ']');
             continue;
         }
         if (index > 0)
-            WriteAscii(",");
+            WriteOne(',');
         Break(open.size());
         if (container.IsObject()) {
             WriteText(container.NameAt(index)->Text());
@@ -129,20 +136,24 @@ template <class Unit>
 void TJsonOutputWriter<Unit>::Break(std::size_t depth) {
     if (fCompact)
         return;
-    const std::basic_string<Unit> indent = As<Unit>(TJsonSerializationConfig::Instance().IndentChar);
-    const std::size_t length = fLineBreak.size() + indent.size() * std::min(depth, DeepestIndent);
-    if (fIndent.empty())
-        fIndent = fLineBreak;
-    while (fIndent.size() < length)
-        fIndent += indent;
-    std::copy_n(fIndent.data(), length, Room(length));
-    fUsed += length;
+    depth = std::min(depth, DeepestIndent);
+    const std::size_t length = fLineBreak.size() + fIndent.size() * depth;
+    while (fMargin.size() < length)
+        fMargin += fIndent;
+    std::copy_n(fMargin.data(), length, Room(length));
+    fAt += length;
+}
+
+template <class Unit>
+void TJsonOutputWriter<Unit>::WriteOne(char ascii) {
+    *Room(1) = Unit(ascii);
+    ++fAt;
 }
 
 template <class Unit>
 void TJsonOutputWriter<Unit>::WriteAscii(std::string_view ascii) {
     std::copy(ascii.begin(), ascii.end(), Room(ascii.size()));
-    fUsed += ascii.size();
+    fAt += ascii.size();
 }
 
 template <class Unit>
@@ -175,11 +186,12 @@ void TJsonOutputWriter<Unit>::WriteScalar(const TJsonDataValue& value) {
 template <class Unit>
 void TJsonOutputWriter<Unit>::WriteText(std::u16string_view text) {
     constexpr std::ptrdiff_t stretch = 64, longest = 6; // a unit gives six at most
-    WriteAscii("\"");
+    constexpr std::size_t room = (stretch + 1) * longest;
     const char16_t* from = text.data();
     const char16_t* const end = from + text.size();
+    Unit* at = Room(room);
+    *at++ = '"';
     while (from != end) {
-        Unit* at = Room(std::size_t((stretch + 1) * longest));
         const char16_t* const stop = from + std::min(stretch, end - from);
         while (from < stop) {
             if (*from >= 0x80 || Escape[*from] != 0)
@@ -187,9 +199,11 @@ void TJsonOutputWriter<Unit>::WriteText(std::u16string_view text) {
             else
                 *at++ = Unit(*from++);
         }
-        fUsed = std::size_t(at - fText.data());
+        fAt = at;
+        at = Room(room);
     }
-    WriteAscii("\"");
+    *at++ = '"';
+    fAt = at;
 }
 
 // Writes a unit that does not stand for itself, or a pair of surrogates.

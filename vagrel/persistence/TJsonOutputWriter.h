@@ -25,20 +25,29 @@ public:
     std::basic_string<Unit> Finish();
 
 private:
-    void WriteMembers(const TJsonBaseObject& root);
     void WriteScalar(const TJsonDataValue& value);
     void WriteText(std::u16string_view text);
     Unit* WriteUnit(Unit* at, const char16_t*& from, const char16_t* end);
     void WriteAscii(std::string_view ascii);
+    void WriteOne(char ascii);
     void Break(std::size_t depth);
-    Unit* Room(std::size_t units);
+    /// Room for so many units more; the caller advances fAt.
+    Unit* Room(std::size_t units) {
+        if (std::size_t(fLimit - fAt) < units)
+            MakeRoom(units);
+        return fAt;
+    }
+    void MakeRoom(std::size_t units);
+    void FlushPiece();
 
     bool fCompact;
     TFlush fFlush;
-    std::basic_string<Unit> fLineBreak, fIndent; // fIndent: the line break and the deepest indentation so far
+    std::basic_string<Unit> fLineBreak, fIndent;
+    std::basic_string<Unit> fMargin; // the line break with the deepest indentation so far
     std::string fNumber;
     std::basic_string<Unit> fText;
-    std::size_t fUsed = 0;
+    Unit* fAt = nullptr;
+    Unit* fLimit = nullptr;
 };
 
 extern template class TJsonOutputWriter<char>;

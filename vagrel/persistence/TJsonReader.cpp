@@ -3,6 +3,7 @@
 #include <vagrel/persistence/TJsonReader.h>
 
 #include "JsonName_p.h"
+#include "JsonTokens_p.h"
 #include "JsonTree_p.h"
 
 #include <vagrel/persistence/JsonExceptions.h>
@@ -12,10 +13,11 @@ namespace vagrel {
 
 template <class Unit>
 struct TJsonReader<Unit>::TFrame {
-    std::size_t start;  // its first value in fValues
-    std::size_t target; // where the value of the present key goes
+    std::size_t start;     // its first value in fValues
+    std::size_t firstName; // its first name in fNames
+    std::size_t target;    // where the value that is read now goes
     bool isObject;
-    TJsonNameIndex index; // of the names, once they are many
+    std::unique_ptr<TJsonNameIndex> index; // of the names, once they are many
 };
 
 template <class Unit>
@@ -33,7 +35,7 @@ TJsonReader<Unit>::~TJsonReader() {
 
 template <class Unit>
 std::unique_ptr<TJsonBaseObject> TJsonReader<Unit>::Read(TJsonDataType wanted) {
-    SkipBlanks();
+    fAt = BehindBlanks(fAt, fEnd);
     if (fAt == fEnd)
         return nullptr;
     if (*fAt == '{' ? wanted == jdtArray : *fAt != '[' || wanted == jdtObject)
@@ -43,16 +45,16 @@ std::unique_ptr<TJsonBaseObject> TJsonReader<Unit>::Read(TJsonDataType wanted) {
         if (fAt >= fNextReport)
             Report();
         if (atValue) {
-            SkipBlanks();
+            fAt = BehindBlanks(fAt, fEnd);
             if (fAt != fEnd && (*fAt == '{' || *fAt == '[')) {
                 atValue = Open();
                 continue;
             }
-            Store(ReadScalar());
+            ReadScalar(fValues[fFrames.back().target]);
         }
         atValue = Next();
     }
-    SkipBlanks();
+    fAt = BehindBlanks(fAt, fEnd);
     if (fAt != fEnd)
         FailExpected("end of file");
     Report();
@@ -65,14 +67,16 @@ bool TJsonReader<Unit>::Open() {
     if (fFrames.size() >= fMaxDepth)
         Fail("Nesting is deeper than " + std::to_string(fMaxDepth) + " levels", fAt);
     const bool isObject = *fAt++ == '{';
-    fFrames.push_back({fValues.size(), 0, isObject, {}});
-    SkipBlanks();
+    fFrames.push_back({fValues.size(), fNames.size(), 0, isObject, nullptr});
+    fAt = BehindBlanks(fAt, fEnd);
     if (fAt != fEnd && *fAt == (isObject ? '}' : ']')) {
         Close();
         return false;
     }
     if (isObject)
         ReadKey();
+    else
+        NewSlot();
     return true;
 }
 
@@ -80,12 +84,14 @@ bool TJsonReader<Unit>::Open() {
 template <class Unit>
 bool TJsonReader<Unit>::Next() {
     const bool isObject = fFrames.back().isObject;
-    SkipBlanks();
+    fAt = BehindBlanks(fAt, fEnd);
     if (fAt != fEnd && *fAt == ',') {
         ++fAt;
         if (isObject) {
-            SkipBlanks();
+            fAt = BehindBlanks(fAt, fEnd);
             ReadKey();
+        } else {
+            NewSlot();
         }
         return true;
     }
@@ -99,55 +105,74 @@ bool TJsonReader<Unit>::Next() {
 template <class Unit>
 void TJsonReader<Unit>::Close() {
     ++fAt;
-    const std::size_t start = fFrames.back().start;
-    auto container = TJsonTreeBuilder::Build(fFrames.back().isObject, fValues.data() + start, fNames.data() + start,
+    const TFrame& frame = fFrames.back();
+    const std::size_t start = frame.start, firstName = frame.firstName;
+    auto container = TJsonTreeBuilder::Build(frame.isObject, fValues.data() + start, fNames.data() + firstName,
                                              fValues.size() - start);
     fValues.resize(start);
-    fNames.resize(start);
+    fNames.resize(firstName);
     fFrames.pop_back();
     if (fFrames.empty())
         fRoot = std::move(container);
     else
-        Store(TJsonTreeBuilder::Value(std::move(container)));
+        fValues[fFrames.back().target] = TJsonTreeBuilder::Value(std::move(container));
 }
 
+// Makes place for the next value of an array.
 template <class Unit>
-void TJsonReader<Unit>::Store(TJsonDataValue value) {
-    const TFrame& frame = fFrames.back();
-    if (frame.isObject) {
-        fValues[frame.target] = std::move(value);
-    } else {
-        fValues.push_back(std::move(value));
-        fNames.push_back(nullptr);
-    }
+void TJsonReader<Unit>::NewSlot() {
+    fFrames.back().target = fValues.size();
+    fValues.emplace_back();
 }
 
 // Takes a key with its colon and finds the place of its value: that of the same key, or a new one.
 template <class Unit>
 void TJsonReader<Unit>::ReadKey() {
     constexpr std::size_t linearLimit = 32;
-    TJsonName* name = Intern(ReadName());
+    TJsonName* name = ReadKnownName();
     TFrame& frame = fFrames.back();
-    TJsonName* const* names = fNames.data() + frame.start;
-    const std::size_t count = fNames.size() - frame.start;
+    TJsonName* const* names = fNames.data() + frame.firstName;
+    const std::size_t count = fNames.size() - frame.firstName;
     std::size_t found = count;
     if (count < linearLimit) {
         found = std::size_t(std::find(names, names + count, name) - names);
     } else {
-        while (frame.index.Count() < count)
-            frame.index.Add(names);
-        if (const std::int32_t at = frame.index.Find(names, name->Text(), name->Hash()); at >= 0)
+        if (!frame.index)
+            frame.index = std::make_unique<TJsonNameIndex>();
+        while (frame.index->Count() < count)
+            frame.index->Add(names);
+        if (const std::int32_t at = frame.index->Find(names, name->Text(), name->Hash()); at >= 0)
             found = std::size_t(at);
     }
     if (found == count) {
         fNames.push_back(name);
         fValues.emplace_back();
+    } else {
+        fValues[frame.start + found].Clear();
     }
     frame.target = frame.start + found;
-    SkipBlanks();
+    fAt = BehindBlanks(fAt, fEnd);
     if (fAt == fEnd || *fAt != ':')
         FailExpected("\":\"");
     ++fAt;
+}
+
+// A name in quotes without escapes that came before is told by its place in fRecent and a comparison.
+template <class Unit>
+TJsonName* TJsonReader<Unit>::ReadKnownName() {
+    if (fAt == fEnd || *fAt != '"')
+        return Intern(ReadName());
+    const Unit* begin = fAt + 1;
+    const Unit* end = BehindPlain(begin, fEnd);
+    if (begin == end || end == fEnd || *end != '"')
+        return Intern(ReadName());
+    const std::size_t length = std::size_t(end - begin);
+    TJsonName*& recent = fRecent[(length * 64 + std::size_t(*begin) * 5 + std::size_t(end[-1])) % fRecent.size()];
+    if (recent && recent->Text().size() == length && std::equal(begin, end, recent->Text().data()))
+        fAt = end + 1;
+    else
+        recent = Intern(ReadName());
+    return recent;
 }
 
 template <class Unit>

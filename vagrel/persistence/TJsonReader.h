@@ -2,6 +2,7 @@
 // The JSON parser. One grammar reads UTF-8 bytes and UTF-16 code units.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -48,20 +49,20 @@ private:
     bool Next();
     void Close();
     void ReadKey();
-    void Store(TJsonDataValue value);
+    void NewSlot();
     // Tokens
-    void SkipBlanks();
     std::u16string_view ReadName();
-    TJsonDataValue ReadScalar();
+    void ReadScalar(TJsonDataValue& slot);
     TJsonDataValue ReadNumber();
+    TJsonDataValue ReadLongInteger(const Unit* begin);
     TJsonDataValue ReadFloat(const Unit* begin, std::uint64_t mantissa, bool isExact, std::int64_t exponent);
-    TJsonDataValue ReadString();
+    void ReadString(TJsonDataValue& slot);
     std::u16string_view ReadText();
-    const Unit* PlainEnd(const Unit* at) const;
     void DecodeText(const Unit* opening);
     void ReadEscape();
     void AppendRun(const Unit* begin, const Unit* end);
     bool TakeWord(const char* word);
+    TJsonName* ReadKnownName();
     TJsonName* Intern(std::u16string_view name);
     // Faults and progress
     std::string Found() const;
@@ -76,11 +77,13 @@ private:
     const Unit* fNextReport;
     std::size_t fMaxDepth;
     std::vector<TFrame> fFrames;
-    // Values of the open containers, one behind the other, and the names beside them.
+    // Values and names of the open containers, one container behind the other.
     std::vector<TJsonDataValue> fValues;
     std::vector<TJsonName*> fNames;
+    // Every name of the text; fRecent finds most of them without their hash.
     std::vector<TJsonName*> fKnownNames;
     std::unique_ptr<TJsonNameIndex> fKnownIndex;
+    std::array<TJsonName*, 256> fRecent{};
     std::u16string fScratch;
     std::unique_ptr<TJsonBaseObject> fRoot;
 };

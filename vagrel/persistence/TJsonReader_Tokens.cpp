@@ -4,7 +4,7 @@
 #include <vagrel/persistence/JsonExceptions.h>
 #include <vagrel/persistence/TJsonReader.h>
 
-#include "JsonName_p.h"
+#include "JsonTokens_p.h"
 
 #include <charconv>
 #include <cstring>
@@ -13,31 +13,23 @@ namespace vagrel {
 
 namespace {
 
-constexpr bool IsDigit(std::uint32_t unit) { return unit - '0' < 10; }
-constexpr bool IsWordStart(std::uint32_t unit) { return (unit | 32) - 'a' < 26 || unit == '_' || unit == '$'; }
-constexpr bool IsWord(std::uint32_t unit) { return (unit | 32) - 'a' < 26 || unit == '_' || IsDigit(unit); }
-constexpr bool IsBlank(std::uint32_t unit) { return unit == ' ' || unit == '\t' || unit == '\n' || unit == '\r'; }
-
-// The units of a text that stand for themselves and widen one by one.
-template <class Unit>
-bool IsPlain(Unit unit) {
-    if constexpr (sizeof(Unit) == 1) {
-        static constexpr auto table = [] {
-            std::array<bool, 256> plain{};
-            for (std::size_t i = 0x20; i < 0x80; ++i)
-                plain[i] = i != '"' && i != '\\';
-            return plain;
-        }();
-        return table[static_cast<unsigned char>(unit)];
-    }
-    return unit >= 0x20 && unit != '"' && unit != '\\';
-}
-
 int HexDigit(std::uint32_t unit) {
     if (IsDigit(unit))
         return int(unit - '0');
     const std::uint32_t letter = (unit | 32) - 'a';
     return letter < 6 ? int(letter) + 10 : -1;
+}
+
+// So many digits fit into 64 bits whatever they are.
+constexpr std::int64_t MantissaDigits = 19;
+
+TJsonDataValue Integer(bool negative, std::uint64_t magnitude) {
+    constexpr std::uint64_t limit32 = std::uint64_t(1) << 31, limit64 = std::uint64_t(1) << 63;
+    if (magnitude < limit32 + negative)
+        return std::int32_t(negative ? -std::int64_t(magnitude) : std::int64_t(magnitude));
+    if (magnitude < limit64 + negative)
+        return std::int64_t(negative ? 0 - magnitude : magnitude);
+    return negative ? TJsonDataValue(-double(magnitude)) : TJsonDataValue(magnitude);
 }
 
 // Powers of ten that double holds exactly.
@@ -48,12 +40,6 @@ std::string Utf8Of(std::string_view text) { return ToUtf8(FromUtf8(text)); }
 std::string Utf8Of(std::u16string_view text) { return ToUtf8(text); }
 
 } // namespace
-
-template <class Unit>
-void TJsonReader<Unit>::SkipBlanks() {
-    while (fAt != fEnd && IsBlank(std::make_unsigned_t<Unit>(*fAt)))
-        ++fAt;
-}
 
 // The text of a key: a string, a bare word or any other scalar as it is written.
 template <class Unit>
@@ -72,30 +58,21 @@ std::u16string_view TJsonReader<Unit>::ReadName() {
     return fScratch;
 }
 
+// Reads into a slot that holds null.
 template <class Unit>
-TJsonDataValue TJsonReader<Unit>::ReadScalar() {
-    if (fAt == fEnd)
+void TJsonReader<Unit>::ReadScalar(TJsonDataValue& slot) {
+    auto put = [&](TJsonDataValue value) { new (&slot) TJsonDataValue(std::move(value)); };
+    const std::uint32_t unit = fAt == fEnd ? 0 : std::make_unsigned_t<Unit>(*fAt);
+    if (unit == '"')
+        ReadString(slot);
+    else if (unit == '-' || IsDigit(unit))
+        put(ReadNumber());
+    else if (unit == 't' && TakeWord("true"))
+        put(true);
+    else if (unit == 'f' && TakeWord("false"))
+        put(false);
+    else if (unit != 'n' || !TakeWord("null"))
         FailExpected("value");
-    switch (*fAt) {
-    case '"':
-        return ReadString();
-    case 't':
-        if (TakeWord("true"))
-            return true;
-        break;
-    case 'f':
-        if (TakeWord("false"))
-            return false;
-        break;
-    case 'n':
-        if (TakeWord("null"))
-            return nullptr;
-        break;
-    default:
-        if (*fAt == '-' || IsDigit(std::make_unsigned_t<Unit>(*fAt)))
-            return ReadNumber();
-    }
-    FailExpected("value");
 }
 
 template <class Unit>
@@ -112,56 +89,58 @@ bool TJsonReader<Unit>::TakeWord(const char* word) {
 
 template <class Unit>
 TJsonDataValue TJsonReader<Unit>::ReadNumber() {
-    const Unit* begin = fAt;
-    const bool negative = *fAt == '-';
-    fAt += negative;
+    const Unit* const begin = fAt;
+    const Unit* at = fAt;
     std::uint64_t mantissa = 0;
-    std::int64_t exponent = 0;
-    bool isExact = true; // the mantissa holds every digit
-    auto digits = [&](bool fraction) {
-        const Unit* first = fAt;
-        for (; fAt != fEnd && IsDigit(std::make_unsigned_t<Unit>(*fAt)); ++fAt) {
-            isExact = isExact && !__builtin_mul_overflow(mantissa, std::uint64_t(10), &mantissa) &&
-                      !__builtin_add_overflow(mantissa, std::uint64_t(*fAt - '0'), &mantissa);
-            exponent -= fraction;
-        }
-        if (fAt == first)
+    auto digits = [&] {
+        const Unit* first = at;
+        for (; at != fEnd && IsDigit(std::make_unsigned_t<Unit>(*at)); ++at)
+            mantissa = mantissa * 10 + std::uint64_t(*at - '0');
+        if (at == first) {
+            fAt = at;
             FailExpected("digit");
+        }
+        return at - first;
     };
-    if (fAt != fEnd && *fAt == '0')
-        ++fAt; // nothing but a fraction or an exponent may follow
+    at += *at == '-';
+    std::int64_t count = 1, exponent = 0;
+    if (at != fEnd && *at == '0')
+        ++at; // nothing but a fraction or an exponent may follow
     else
-        digits(false);
-    const bool isInteger = fAt == fEnd || (*fAt != '.' && *fAt != 'e' && *fAt != 'E');
-    if (isInteger && isExact) {
-        if (negative && mantissa <= std::uint64_t(1) << 63) {
-            const auto value = std::int64_t(0 - mantissa);
-            return value >= std::numeric_limits<std::int32_t>::min() ? TJsonDataValue(std::int32_t(value))
-                                                                     : TJsonDataValue(value);
-        }
-        if (!negative) {
-            if (mantissa <= std::uint64_t(std::numeric_limits<std::int32_t>::max()))
-                return std::int32_t(mantissa);
-            return mantissa >> 63 ? TJsonDataValue(mantissa) : TJsonDataValue(std::int64_t(mantissa));
-        }
+        count = digits();
+    if (at == fEnd || (*at != '.' && *at != 'e' && *at != 'E')) {
+        fAt = at;
+        return count <= MantissaDigits ? Integer(*begin == '-', mantissa) : ReadLongInteger(begin);
     }
-    if (fAt != fEnd && *fAt == '.') {
-        ++fAt;
-        digits(true);
+    if (*at == '.') {
+        ++at;
+        exponent = -digits();
     }
-    if (fAt != fEnd && (*fAt == 'e' || *fAt == 'E')) {
-        ++fAt;
-        const bool down = fAt != fEnd && *fAt == '-';
-        fAt += down || (fAt != fEnd && *fAt == '+');
-        const Unit* first = fAt;
-        std::int64_t written = 0;
-        for (; fAt != fEnd && IsDigit(std::make_unsigned_t<Unit>(*fAt)); ++fAt)
-            written = std::min<std::int64_t>(written * 10 + (*fAt - '0'), 1000000000);
-        if (fAt == first)
-            FailExpected("digit");
+    if (at != fEnd && (*at == 'e' || *at == 'E')) {
+        ++at;
+        const bool down = at != fEnd && *at == '-';
+        at += down || (at != fEnd && *at == '+');
+        const std::uint64_t fraction = std::exchange(mantissa, 0);
+        const std::int64_t written =
+            digits() < MantissaDigits ? std::min<std::int64_t>(std::int64_t(mantissa), 1000000000) : 1000000000;
+        mantissa = fraction;
+        count -= exponent;
         exponent += down ? -written : written;
+    } else {
+        count -= exponent;
     }
-    return ReadFloat(begin, mantissa, isExact, exponent);
+    fAt = at;
+    return ReadFloat(begin, mantissa, count <= MantissaDigits, exponent);
+}
+
+// An integer of more digits than a mantissa takes for sure.
+template <class Unit>
+TJsonDataValue TJsonReader<Unit>::ReadLongInteger(const Unit* begin) {
+    const std::string text(begin, fAt);
+    std::uint64_t value = 0;
+    if (std::from_chars(text.data(), text.data() + text.size(), value).ec == std::errc() && text[0] != '-')
+        return value;
+    return ReadFloat(begin, 0, false, 0);
 }
 
 // The number from `begin` to here. Where the mantissa and the power of ten are exact in double one operation rounds
@@ -188,29 +167,22 @@ TJsonDataValue TJsonReader<Unit>::ReadFloat(const Unit* begin, std::uint64_t man
 }
 
 template <class Unit>
-const Unit* TJsonReader<Unit>::PlainEnd(const Unit* at) const {
-    while (at != fEnd && IsPlain(*at))
-        ++at;
-    return at;
-}
-
-template <class Unit>
-TJsonDataValue TJsonReader<Unit>::ReadString() {
+void TJsonReader<Unit>::ReadString(TJsonDataValue& slot) {
     const Unit* begin = fAt + 1;
-    const Unit* end = PlainEnd(begin);
-    if (end == fEnd || *end != '"')
-        return ReadText();
-    TJsonDataValue value;
-    std::copy(begin, end, value.NewText(std::size_t(end - begin)));
-    fAt = end + 1;
-    return value;
+    const Unit* end = BehindPlain(begin, fEnd);
+    if (end == fEnd || *end != '"') {
+        slot = ReadText();
+    } else {
+        std::copy(begin, end, slot.NewText(std::size_t(end - begin)));
+        fAt = end + 1;
+    }
 }
 
 // A string, decoded into fScratch.
 template <class Unit>
 std::u16string_view TJsonReader<Unit>::ReadText() {
     const Unit* opening = fAt++;
-    const Unit* end = PlainEnd(fAt);
+    const Unit* end = BehindPlain(fAt, fEnd);
     fScratch.assign(fAt, end);
     fAt = end;
     if (fAt == fEnd || *fAt != '"')
