@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// The classes of code units that JSON knows.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <type_traits>
+
+namespace vagrel {
+
+constexpr bool IsDigit(std::uint32_t unit) { return unit - '0' < 10; }
+constexpr bool IsWordStart(std::uint32_t unit) { return (unit | 32) - 'a' < 26 || unit == '_' || unit == '$'; }
+constexpr bool IsWord(std::uint32_t unit) { return (unit | 32) - 'a' < 26 || unit == '_' || IsDigit(unit); }
+constexpr bool IsBlank(std::uint32_t unit) {
+    constexpr std::uint64_t blanks = 1ull << ' ' | 1ull << '\t' | 1ull << '\n' | 1ull << '\r';
+    return unit <= ' ' && (blanks >> unit & 1) != 0;
+}
+
+// The units of a text that stand for themselves and widen one by one.
+template <class Unit>
+bool IsPlain(Unit unit) {
+    if constexpr (sizeof(Unit) == 1) {
+        static constexpr auto table = [] {
+            std::array<bool, 256> plain{};
+            for (std::size_t i = 0x20; i < 0x80; ++i)
+                plain[i] = i != '"' && i != '\\';
+            return plain;
+        }();
+        return table[static_cast<unsigned char>(unit)];
+    }
+    return unit >= 0x20 && unit != '"' && unit != '\\';
+}
+
+/// The first unit from `at` on that is no blank.
+template <class Unit>
+inline const Unit* BehindBlanks(const Unit* at, const Unit* end) {
+    while (at != end && IsBlank(std::make_unsigned_t<Unit>(*at)))
+        ++at;
+    return at;
+}
+
+/// The first unit from `at` on that ends a text or needs decoding.
+template <class Unit>
+inline const Unit* BehindPlain(const Unit* at, const Unit* end) {
+    while (at != end && IsPlain(*at))
+        ++at;
+    return at;
+}
+
+} // namespace vagrel
