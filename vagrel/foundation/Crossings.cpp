@@ -221,6 +221,9 @@ void CrossOvals(const TKSLShape& a, const TKSLShape& b, Points& out) {
             AddApart(out, point);
     };
     const std::vector<double> turns = Turns(function);
+    // More turns than the degree allows are rounding noise on a constant: circles about one centre.
+    if (turns.size() > 4)
+        return;
     for (std::size_t i = 0; i < turns.size(); ++i) {
         // From one turn to the next the function is monotonic.
         const double from = turns[i], to = i + 1 < turns.size() ? turns[i + 1] : turns[0] + TwoPi;

@@ -37,9 +37,9 @@ struct TKSLShape {
 /// Replaces `out` by the points that two figures have in common: crossings, touches, and ends of one on the other, each
 /// once, rounded to base units.
 ///
-/// Figures that miss each other by up to 1 unit touch. Segments or equal circles that lie on each other have no
-/// crossings; a figure with a radius below 1 has none at all. Where an end of a curve takes part, points less than 2
-/// units apart on both axes count once. A crossing of an ellipse with a circle, arc or ellipse is solved to less than
+/// Figures of which one is curved touch when they miss each other by up to 1 unit, and of their common points those
+/// less than 2 units apart on both axes count once. Segments or arcs that lie on each other have no crossings; a figure
+/// with a radius below 1 has none at all. A crossing of an ellipse with a circle, arc or ellipse is solved to less than
 /// a base unit; only where the two lines all but coincide over a stretch (a contact of third order) may crossings less
 /// than 1.5 degrees apart, seen from the centre, count once.
 void CrossShapes(const TKSLShape& a, const TKSLShape& b, std::vector<TKSLPto>& out);

@@ -21,11 +21,7 @@ inline std::int64_t Span(std::int64_t a, std::int64_t b) {
     return std::max(SubSat(a, b), -std::numeric_limits<std::int64_t>::max());
 }
 
-/// a − b as a double; the subtraction is exact as long as it fits 64 bits.
-inline double Delta(std::int64_t a, std::int64_t b) {
-    std::int64_t difference;
-    return __builtin_sub_overflow(a, b, &difference) ? double(a) - double(b) : double(difference);
-}
+inline double Delta(std::int64_t a, std::int64_t b) { return double(Span(a, b)); }
 
 /// Cross and dot product of two vectors of spans.
 inline TInt128 Cross(std::int64_t ax, std::int64_t ay, std::int64_t bx, std::int64_t by) {
