@@ -166,20 +166,23 @@ public:
           fY(Delta(outline.cy, other.cy) / other.ry), fOther(other) {}
 
     double Value(double angle) const {
-        const double u = fX + fRx * std::cos(angle), v = fY + fRy * std::sin(angle);
+        const auto [u, v] = At(std::cos(angle), std::sin(angle));
         return u * u + v * v - 1;
     }
     double Slope(double angle) const {
-        const double u = fX + fRx * std::cos(angle), v = fY + fRy * std::sin(angle);
-        return 2 * (v * fRy * std::cos(angle) - u * fRx * std::sin(angle));
+        const double c = std::cos(angle), s = std::sin(angle);
+        const auto [u, v] = At(c, s);
+        return 2 * (v * fRy * c - u * fRx * s);
     }
     /// How much the value changes over one base unit across the line of the other oval.
     double UnitStep(double angle) const {
-        const double u = fX + fRx * std::cos(angle), v = fY + fRy * std::sin(angle);
+        const auto [u, v] = At(std::cos(angle), std::sin(angle));
         return 2 * TDraw2D::Magnitude(u / fOther.rx, v / fOther.ry);
     }
 
 private:
+    TPoint2D At(double c, double s) const { return {fX + fRx * c, fY + fRy * s}; }
+
     double fRx, fRy, fX, fY;
     Oval fOther;
 };
@@ -202,9 +205,10 @@ std::vector<double> Turns(const OutlineFunction& function) {
     const auto slope = [&function](double angle) { return function.Slope(angle); };
     const auto angleOf = [](int sample) { return (sample + 0.5) * TwoPi / samples; };
     std::vector<double> turns;
-    for (int i = 0; i < samples; ++i)
-        if ((slope(angleOf(i)) < 0) != (slope(angleOf(i + 1)) < 0))
-            turns.push_back(Bisect(slope, angleOf(i), angleOf(i + 1)));
+    bool falls = slope(angleOf(0)) < 0;
+    for (int i = 1; i <= samples; ++i)
+        if (const bool fell = falls; (falls = slope(angleOf(i)) < 0) != fell)
+            turns.push_back(Bisect(slope, angleOf(i - 1), angleOf(i)));
     return turns;
 }
 

@@ -34,8 +34,7 @@ double HeadAngle(TKSLAngle angle) {
 // The anchors of a figure go clockwise from its top left corner, 1, in four steps a side; corners belong to both sides.
 using AnchorSet = std::uint32_t;
 constexpr AnchorSet Anchors(int first, int last) { return (AnchorSet(2) << last) - (AnchorSet(1) << first); }
-constexpr AnchorSet Free = 1, Top = Anchors(1, 5), Right = Anchors(5, 9), Bottom = Anchors(9, 13),
-                    Left = Anchors(13, 16) | AnchorSet(2);
+constexpr AnchorSet Free = 1, Right = Anchors(5, 9), Bottom = Anchors(9, 13), Left = Anchors(13, 16) | Anchors(1, 1);
 constexpr bool In(AnchorSet set, std::int16_t anchor) { return anchor >= 0 && anchor < 32 && (set >> anchor & 1) != 0; }
 
 std::int64_t Halfway(std::int64_t from, std::int64_t to) { return AddSat(from, SubSat(to, from) / 2); }

@@ -23,6 +23,16 @@ int CrossCircles(double dx, double dy, double r1, double r2, double tolerance, T
     return height < tolerance ? 1 : 2;
 }
 
+// The solutions on the line through (x1, y1) and (x2, y2): one where it touches, twice.
+std::int16_t Solve(const TQuadratic& line, std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2,
+                   std::int64_t& p1x, std::int64_t& p1y, std::int64_t& p2x, std::int64_t& p2y) {
+    const bool touches = line.discriminant < 1e-7;
+    const double first = touches ? line.Tangent() : line.First(), second = touches ? first : line.Second();
+    p1x = Along(x1, x2, first), p1y = Along(y1, y2, first);
+    p2x = Along(x1, x2, second), p2y = Along(y1, y2, second);
+    return touches ? 1 : 2;
+}
+
 } // namespace
 
 TQuadratic detail::LineOnEllipse(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2, std::int64_t cx,
@@ -71,11 +81,7 @@ std::int16_t TDraw2D::LineCrossCircle(Base x1, Base y1, Base x2, Base y2, Base c
     const double slack = r == 0 ? 0 : 40 * line.a * double(r);
     if (line.discriminant < 0 && slack < -line.discriminant)
         return 0;
-    const bool touches = line.discriminant < 1e-7;
-    const double first = touches ? line.Tangent() : line.First(), second = touches ? first : line.Second();
-    p1x = Along(x1, x2, first), p1y = Along(y1, y2, first);
-    p2x = Along(x1, x2, second), p2y = Along(y1, y2, second);
-    return touches ? 1 : 2;
+    return Solve(line, x1, y1, x2, y2, p1x, p1y, p2x, p2y);
 }
 
 std::int16_t TDraw2D::LineCrossEllipse(Base x1, Base y1, Base x2, Base y2, Base cx, Base cy, Base rx, Base ry,
@@ -85,11 +91,7 @@ std::int16_t TDraw2D::LineCrossEllipse(Base x1, Base y1, Base x2, Base y2, Base 
     const TQuadratic line = LineOnEllipse(x1, y1, x2, y2, cx, cy, rx, ry);
     if (line.a <= 1e-12 || line.discriminant < 0)
         return 0;
-    const bool touches = line.discriminant < 1e-7;
-    const double first = touches ? line.Tangent() : line.First(), second = touches ? first : line.Second();
-    p1x = Along(x1, x2, first), p1y = Along(y1, y2, first);
-    p2x = Along(x1, x2, second), p2y = Along(y1, y2, second);
-    return touches ? 1 : 2;
+    return Solve(line, x1, y1, x2, y2, p1x, p1y, p2x, p2y);
 }
 
 std::int16_t TDraw2D::LineCrossRect(Base x1, Base y1, Base x2, Base y2, Base x3, Base y3, Base x4, Base y4, Base& p1x,
