@@ -98,26 +98,18 @@ TEST(TDraw2DOffsets, PolygonsAndArcs) {
 }
 
 TEST(TDraw2DCrossings, LineAgainstLine) {
-    const struct {
-        const char* what;
-        std::array<Base, 8> lines;
-        bool crosses, onSegments, inside;
-    } rows[] = {{"a cross", {0, 0, 10, 10, 0, 10, 10, 0}, true, true, true},
-                {"a corner", {0, 0, 10, 0, 10, 0, 10, 10}, true, true, false},
-                {"an end on the middle", {0, 0, 10, 0, 5, 0, 5, 10}, true, true, false},
-                {"beyond an end", {0, 0, 10, 0, 12, -5, 12, 5}, true, false, false},
-                {"parallels", {0, 0, 10, 5, 0, 1, 10, 6}, false, false, false}};
-    for (const auto& row : rows) {
-        const auto& l = row.lines;
-        Base x, y;
-        const auto cross = [&](bool segments, bool ends) {
-            return D::IntersectLines(l[0], l[1], l[2], l[3], l[4], l[5], l[6], l[7], segments, ends, x, y);
-        };
-        EXPECT_EQ(cross(false, false), row.crosses) << row.what;
-        EXPECT_EQ(cross(true, true), row.onSegments) << row.what;
-        EXPECT_EQ(cross(true, false), row.inside) << row.what;
-    }
     Base x = 0, y = 0;
+    // A horizontal line and one at x from y3 to y4: as lines, as segments with their ends, as segments without.
+    const auto cross = [&](Base at, Base y3, Base y4) {
+        return std::array{D::IntersectLines(0, 0, 10, 0, at, y3, at, y4, false, false, x, y),
+                          D::IntersectLines(0, 0, 10, 0, at, y3, at, y4, true, true, x, y),
+                          D::IntersectLines(0, 0, 10, 0, at, y3, at, y4, true, false, x, y)};
+    };
+    EXPECT_EQ(cross(5, -5, 5), (std::array{true, true, true}));
+    EXPECT_EQ(cross(10, 0, 5), (std::array{true, true, false})) << "a corner";
+    EXPECT_EQ(cross(5, 0, 5), (std::array{true, true, false})) << "an end on the middle";
+    EXPECT_EQ(cross(12, -5, 5), (std::array{true, false, false}));
+    EXPECT_FALSE(D::IntersectLines(0, 0, 10, 5, 0, 1, 10, 6, false, false, x, y));
     EXPECT_TRUE(D::LinePerpenFromPoint(0, 0, 30, 40, 50, 0, true, x, y));
     EXPECT_TRUE(x == 18 && y == 24);
     EXPECT_FALSE(D::LinePerpenFromPoint(0, 0, 30, 40, 500, 0, true, x, y));
@@ -174,49 +166,39 @@ TEST(TDraw2DCrossings, FiguresAgainstRectangles) {
 }
 
 TEST(TDraw2DExtend, ToFigures) {
+    const auto toLine = D::ExtendLines;
+    const auto toCircle = D::ExtendLineToCircle;
+    const auto toEllipse = D::ExtendLineToEllipse;
+    const auto toRectangle = D::ExtendLineToRectangle;
+    const auto toChain = D::ExtendLineToPolyline;
+    const auto toArc = D::ExtendLineToArc;
+    const auto trim = D::TrimLineAtArc;
     const TKSLPtoA chain{{200, -50}, {200, 50}, {0, 50}};
     const struct {
         const char* what;
         Answer actual, expected;
     } rows[] = {
-        {"line", Ask(D::ExtendLines, 100, -9, 100, 9, 0, 0, 50, 0, 50, 0), {1, 0, 0, 100, 0}},
-        {"line, behind", Ask(D::ExtendLines, -100, -9, -100, 9, 0, 0, 50, 0, 50, 0), {1, 50, 0, -100, 0}},
-        {"line, reached", Ask(D::ExtendLines, 20, -9, 20, 9, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
-        {"line, parallel", Ask(D::ExtendLines, 0, 9, 9, 9, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
-        {"circle", Ask(D::ExtendLineToCircle, 200, 0, 50, 0, 0, 50, 0, 50, 0), {1, 0, 0, 150, 0}},
-        {"circle, from inside", Ask(D::ExtendLineToCircle, 0, 0, 50, 0, 0, 10, 0, 0, 0), {1, -50, 0, 10, 0}},
-        {"circle, behind", Ask(D::ExtendLineToCircle, 200, 0, 50, 0, 0, 50, 0, 0, 0), {0, 0, 0, 50, 0}},
-        {"circle, missed", Ask(D::ExtendLineToCircle, 200, 51, 50, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
-        {"ellipse", Ask(D::ExtendLineToEllipse, 200, 0, 100, 50, 0, 30, 50, 30, 50, 30), {1, 0, 30, 120, 30}},
-        {"ellipse, tangent", Ask(D::ExtendLineToEllipse, 200, 0, 99, 50, 50, 50, 0, 50, 50, 50), {1, 200, 50, 0, 50}},
-        {"ellipse, flat", Ask(D::ExtendLineToEllipse, 200, 0, 100, 0, 0, 30, 50, 30, 50, 30), {0, 0, 30, 50, 30}},
-        {"rectangle", Ask(D::ExtendLineToRectangle, 100, -50, 200, 50, 0, 0, 50, 10, 50, 10), {1, 0, 0, 100, 20}},
-        {"rectangle, from inside",
-         Ask(D::ExtendLineToRectangle, 0, 0, 90, 90, 40, 40, 50, 40, 40, 40),
-         {1, 0, 40, 50, 40}},
-        {"rectangle, missed", Ask(D::ExtendLineToRectangle, 100, 10, 200, 50, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
-        {"polyline", Ask(D::ExtendLineToPolyline, chain, 10, 20, 50, 20, 50, 20, false), {1, 10, 20, 200, 20}},
-        {"polyline, open side",
-         Ask(D::ExtendLineToPolyline, chain, 50, 20, 90, 20, 50, 20, false),
-         {0, 50, 20, 90, 20}},
-        {"polyline, closing side",
-         Ask(D::ExtendLineToPolyline, chain, 150, 20, 170, 20, 150, 20, true),
-         {1, 60, 20, 170, 20}},
-        {"polyline, at coordinate 0",
-         Ask(D::ExtendLineToPolyline, chain, 10, 0, 50, 0, 50, 0, false),
-         {0, 10, 0, 50, 0}},
-        {"arc", Ask(D::ExtendLineToArc, 300, -100, 200, 0, 300, 100, 0, 0, 50, 0, 50, 0), {1, 0, 0, 200, 0}},
-        {"arc, its open side",
-         Ask(D::ExtendLineToArc, 300, -100, 400, 0, 300, 100, 0, 0, 50, 0, 50, 0),
-         {0, 0, 0, 50, 0}},
-        {"arc, flat", Ask(D::ExtendLineToArc, 0, 9, 1, 9, 2, 9, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
-        {"trim", Ask(D::TrimLineAtArc, 300, -100, 200, 0, 300, 100, 0, 0, 350, 0, 349, 0), {1, 0, 0, 200, 0}},
-        {"trim, nearer of two",
-         Ask(D::TrimLineAtArc, 220, -60, 400, 0, 220, 60, 0, 80, 450, 80, 10, 80),
-         {1, 240, 80, 450, 80}},
-        {"trim, no crossing",
-         Ask(D::TrimLineAtArc, 300, -100, 200, 0, 300, 100, 0, 0, 150, 0, 0, 0),
-         {0, 0, 0, 150, 0}},
+        {"line", Ask(toLine, 100, -9, 100, 9, 0, 0, 50, 0, 50, 0), {1, 0, 0, 100, 0}},
+        {"line, behind", Ask(toLine, -100, -9, -100, 9, 0, 0, 50, 0, 50, 0), {1, 50, 0, -100, 0}},
+        {"line, reached", Ask(toLine, 20, -9, 20, 9, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
+        {"line, parallel", Ask(toLine, 0, 9, 9, 9, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
+        {"circle", Ask(toCircle, 200, 0, 50, 0, 0, 50, 0, 50, 0), {1, 0, 0, 150, 0}},
+        {"circle, from inside", Ask(toCircle, 0, 0, 50, 0, 0, 10, 0, 0, 0), {1, -50, 0, 10, 0}},
+        {"circle, missed", Ask(toCircle, 200, 51, 50, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
+        {"ellipse", Ask(toEllipse, 200, 0, 100, 50, 0, 30, 50, 30, 50, 30), {1, 0, 30, 120, 30}},
+        {"ellipse, tangent", Ask(toEllipse, 200, 0, 99, 50, 50, 50, 0, 50, 50, 50), {1, 200, 50, 0, 50}},
+        {"ellipse, flat", Ask(toEllipse, 200, 0, 100, 0, 0, 30, 50, 30, 50, 30), {0, 0, 30, 50, 30}},
+        {"rectangle", Ask(toRectangle, 100, -50, 200, 50, 0, 0, 50, 10, 50, 10), {1, 0, 0, 100, 20}},
+        {"rectangle, from inside", Ask(toRectangle, 0, 0, 90, 90, 40, 40, 50, 40, 40, 40), {1, 0, 40, 50, 40}},
+        {"polyline", Ask(toChain, chain, 10, 20, 50, 20, 50, 20, false), {1, 10, 20, 200, 20}},
+        {"polyline, open side", Ask(toChain, chain, 50, 20, 90, 20, 50, 20, false), {0, 50, 20, 90, 20}},
+        {"polyline, closing side", Ask(toChain, chain, 150, 20, 170, 20, 150, 20, true), {1, 60, 20, 170, 20}},
+        {"polyline, at coordinate 0", Ask(toChain, chain, 10, 0, 50, 0, 50, 0, false), {0, 10, 0, 50, 0}},
+        {"arc", Ask(toArc, 300, -100, 200, 0, 300, 100, 0, 0, 50, 0, 50, 0), {1, 0, 0, 200, 0}},
+        {"arc, its open side", Ask(toArc, 300, -100, 400, 0, 300, 100, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
+        {"trim", Ask(trim, 300, -100, 200, 0, 300, 100, 0, 0, 350, 0, 349, 0), {1, 0, 0, 200, 0}},
+        {"trim, nearer of two", Ask(trim, 220, -60, 400, 0, 220, 60, 0, 80, 450, 80, 10, 80), {1, 240, 80, 450, 80}},
+        {"trim, no crossing", Ask(trim, 300, -100, 200, 0, 300, 100, 0, 0, 150, 0, 0, 0), {0, 0, 0, 150, 0}},
     };
     for (const auto& row : rows)
         EXPECT_EQ(row.actual, row.expected) << row.what;
