@@ -27,7 +27,8 @@ const std::vector<TLine>& Lines() {
         };
         std::vector<TLine> out(100000);
         for (TLine& line : out)
-            line = {place(), place(), place(), place(), float(random() % 20 + 1) / 10, 0xFF000000 | TAlphaColor(random())};
+            line = {
+                place(), place(), place(), place(), float(random() % 20 + 1) / 10, 0xFF000000 | TAlphaColor(random())};
         return out;
     }();
     return lines;

@@ -40,12 +40,27 @@ function(vagrel_library name)
     target_link_libraries(vagrel_${name} PUBLIC ${ARG_LINKS})
 endfunction()
 
+# What the engine stands on.
+set(VAGREL_LEAVES vagrel::foundation vagrel::platform vagrel::messages vagrel::persistence vagrel::svgtext)
+
 # vagrel_part(NAME SOURCES ...): a folder of the engine; its objects are gathered into vagrel::engine.
 function(vagrel_part name)
     cmake_parse_arguments(ARG "" "" "SOURCES" ${ARGN})
     add_library(vagrel_${name} OBJECT ${ARG_SOURCES})
     vagrel_settings(vagrel_${name})
-    target_link_libraries(vagrel_${name} PUBLIC vagrel::foundation)
+    target_link_libraries(vagrel_${name} PUBLIC ${VAGREL_LEAVES})
+endfunction()
+
+# vagrel_engine(PART ...): gathers the folders of the engine into vagrel::engine.
+function(vagrel_engine)
+    add_library(vagrel_engine)
+    add_library(vagrel::engine ALIAS vagrel_engine)
+    vagrel_settings(vagrel_engine)
+    target_link_libraries(vagrel_engine PUBLIC ${VAGREL_LEAVES})
+    foreach(part ${ARGN})
+        target_sources(vagrel_engine PRIVATE $<TARGET_OBJECTS:vagrel_${part}>)
+    endforeach()
+    set_target_properties(vagrel_engine PROPERTIES LINKER_LANGUAGE CXX)
 endfunction()
 
 # vagrel_test(NAME SOURCES ... LINKS ...): the tests of one folder, found by ctest case by case.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What an item can do beyond being an item: small interfaces, found by query on the item.
 //
-// Lengths called Base are base units; all others are millimetres where the interface is about a pen, a font or a padding, and
-// the document's unit elsewhere.
+// Lengths called Base are base units; all others are millimetres where the interface is about a pen, a font or a
+// padding, and the document's unit elsewhere.
 #pragma once
 
 #include <vagrel/foundation/Records.h>
@@ -178,8 +178,8 @@ protected:
     ~IKSLText() = default;
 };
 
-/// Items implement IKSLText through this: the height of a text and the height of a box share a name, and an item may have
-/// both.
+/// Items implement IKSLText through this: the height of a text and the height of a box share a name, and an item may
+/// have both.
 class TKSLTextShim : public IKSLText {
 public:
     float GetHeight() const final { return TextHeight(); }

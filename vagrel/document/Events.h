@@ -15,8 +15,7 @@ class TVGRBaseLabel;
 
 using TNotifyEvent = std::function<void(TVGRBaseLabel&)>;
 using TKSLGetFontListEvent = std::function<void(TVGRBaseLabel&, std::vector<std::u16string>& list)>;
-using TKSLInfoMsgEvent =
-    std::function<void(TVGRBaseLabel&, const std::u16string& action, const std::u16string& state)>;
+using TKSLInfoMsgEvent = std::function<void(TVGRBaseLabel&, const std::u16string& action, const std::u16string& state)>;
 using TKSLInfoSymEvent =
     std::function<void(TVGRBaseLabel&, const std::u16string& name, const std::u16string& note, TKSLUnits units)>;
 using TKSLReadSymEvent = std::function<void(TVGRBaseLabel&, const std::u16string& file, bool& read)>;

@@ -6,8 +6,8 @@
 
 namespace vagrel {
 
-/// An editor, inspector, preview or symbol view attached to a document. The document does not own it; an observer that is
-/// a TComponent too is detached when it is destroyed.
+/// An editor, inspector, preview or symbol view attached to a document. The document does not own it; an observer that
+/// is a TComponent too is detached when it is destroyed.
 class IKSObserver {
 public:
     virtual TKSDestUpdate GetDest() const = 0;

@@ -97,6 +97,15 @@ void TVGR2DItem::CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by, TKSLMov
         CheckBaseBoundsMoveResize(bx, by, option);
 }
 
+SvgElement& TVGR2DItem::WriteFill(SvgElement& element) const {
+    return fFill ? element.Fill(fBackColor) : element << " fill=\"none\"";
+}
+
+SvgElement& TVGR2DItem::WriteStroke(SvgElement& element, TKSLineType dash) const {
+    element.Stroke(fColor) << " stroke-width=\"";
+    return (element.Pen(GetPenWidth()) << "\"").Dash(dash);
+}
+
 void TVGR2DItem::WriteKeys(TJsonObject& json) const {
     json.SetBool(u"Filled", fFill);
     SetAlphaColor(json, u"FillColor", fBackColor);

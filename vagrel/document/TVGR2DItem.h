@@ -40,11 +40,14 @@ public:
     using TVGRBaseItem::CheckBaseBoundsMove;
     void CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt option) const override;
 
-
 protected:
     TVGR2DItem(TVGRBaseLabel& owner, TKSLItemType type, bool preview);
     TVGR2DItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview);
 
+    /// ` fill=...` in the back colour, or none.
+    SvgElement& WriteFill(SvgElement& element) const;
+    /// Stroke colour, pen width and dash.
+    SvgElement& WriteStroke(SvgElement& element, TKSLineType dash) const;
     void WriteKeys(TJsonObject& json) const override;
     void ReadKeys(std::int32_t version, TJsonObject& json) override;
     void WriteFields(TBinaryWriter& writer) const override;

@@ -7,8 +7,8 @@
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Rounding.h>
-#include <vagrel/foundation/Text.h>
 #include <vagrel/foundation/TVGRBaseDraw.h>
+#include <vagrel/foundation/Text.h>
 #include <vagrel/foundation/Units.h>
 #include <vagrel/messages/TVGRMsg.h>
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The base of every drawable thing in a document: identity, points, the style common to all, and the frame of persistence.
+// The base of every drawable thing in a document: identity, points, the style common to all, and the frame of
+// persistence.
 #pragma once
 
 #include <vagrel/document/Capabilities.h>
@@ -32,8 +33,8 @@ struct TKSLChain {
     bool closed = false;
 };
 
-/// An item of a document. An item adopts itself into its document when it is constructed; the document owns it from then on
-/// and is told by the base destructor, so that no list keeps a dead item. Points count from 1.
+/// An item of a document. An item adopts itself into its document when it is constructed; the document owns it from
+/// then on and is told by the base destructor, so that no list keeps a dead item. Points count from 1.
 class TVGRBaseItem : public IKSLStroke {
 public:
     TVGRBaseItem(const TVGRBaseItem&) = delete;
@@ -147,7 +148,8 @@ public:
     // Moving
 
     /// Moves by base units, or to a grid where `gx`, `gy` are positive. Records the change.
-    virtual void BaseMove(std::int64_t bx, std::int64_t by, std::int64_t gx, std::int64_t gy, TKSLMoveOpt option, bool update);
+    virtual void BaseMove(std::int64_t bx, std::int64_t by, std::int64_t gx, std::int64_t gy, TKSLMoveOpt option,
+                          bool update);
     /// Moves by document units.
     virtual void Move(float ax, float ay, TKSLMoveOpt option);
     virtual void RotateLeft();
@@ -245,7 +247,8 @@ protected:
 
     void CheckBaseBoundsMoveResize(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt option) const;
     /// A hit of a snap search, when the place is near the candidate.
-    static bool Snap(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLPto candidate, TKSRefType type, TKSLRef& ref);
+    static bool Snap(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLPto candidate, TKSRefType type,
+                     TKSLRef& ref);
     /// The foot of the perpendicular from the last reference point on a segment.
     static bool SnapFoot(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLPto from, TKSLPto to, TKSLRef& ref);
     /// Keeps of two sets only what is given.

@@ -148,7 +148,8 @@ void TVGRBaseItem::CheckBaseBoundsMoveResize(std::int64_t& bx, std::int64_t& by,
         return;
     const TVGRMeasure& measure = fOwner.GetMeasure();
     const std::int64_t width = measure.GetSize(mtLabelWidth, true), height = measure.GetSize(mtLabelHeight, true);
-    auto clip = [](std::int64_t& offset, std::int64_t first, std::int64_t second, bool low, bool high, std::int64_t size) {
+    auto clip = [](std::int64_t& offset, std::int64_t first, std::int64_t second, bool low, bool high,
+                   std::int64_t size) {
         if (low)
             ClipBase(offset, first, first, size);
         if (high)

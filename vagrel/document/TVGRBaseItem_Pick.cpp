@@ -19,13 +19,12 @@ constexpr TTypes LineTypes{itLine, itArrowLine, itLink, itDim};
 constexpr TTypes ChainTypes{itLine, itArrowLine, itPolyLine, itPolygon, itBezier, itDim};
 constexpr TTypes MatrixTypes{itBarcode, itPDF417, itDataMatrix, itQRCode};
 constexpr TTypes RoundTypes{itCircle, itEllipse, itLevel, itSector};
-constexpr TTypes AlignedTypes = TTypes{itPoint, itRectangle, itCircle, itEllipse, itText, itPara, itImage, itFlow, itTable,
-                                       itPolyText, itRank, itNutriScore, itLevel, itSymbol, itSector, itPackage,
-                                       itRichText} + MatrixTypes;
+constexpr TTypes AlignedTypes =
+    TTypes{itPoint,    itRectangle, itCircle,     itEllipse, itText,   itPara,   itImage,   itFlow,    itTable,
+           itPolyText, itRank,      itNutriScore, itLevel,   itSymbol, itSector, itPackage, itRichText} +
+    MatrixTypes;
 
-bool Near(std::int64_t a, std::int64_t b, std::int64_t gap) {
-    return a >= SubSat(b, gap) && a <= AddSat(b, gap);
-}
+bool Near(std::int64_t a, std::int64_t b, std::int64_t gap) { return a >= SubSat(b, gap) && a <= AddSat(b, gap); }
 
 TKSLPto Middle(TKSLPto a, TKSLPto b) {
     return {AddSat(a.bX, SubSat(b.bX, a.bX) / 2), AddSat(a.bY, SubSat(b.bY, a.bY) / 2)};
@@ -55,7 +54,8 @@ bool TVGRBaseItem::Snap(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSL
     return true;
 }
 
-bool TVGRBaseItem::SnapFoot(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLPto from, TKSLPto to, TKSLRef& ref) {
+bool TVGRBaseItem::SnapFoot(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLPto from, TKSLPto to,
+                            TKSLRef& ref) {
     TKSLPto foot;
     return ref.HasLast() &&
            TDraw2D::LinePerpenFromPoint(from.bX, from.bY, to.bX, to.bY, ref.lbX, ref.lbY, true, foot.bX, foot.bY) &&
@@ -133,8 +133,10 @@ TKSLPto TVGRBaseItem::GetRefPoint(int index) const {
     const TKSLRect& r = fBoundsRect;
     const TKSLPto middle = Middle({r.Left, r.Top}, {r.Right, r.Bottom});
     if (RoundTypes.Has(fItemType))
-        return std::array<TKSLPto, 4>{
-            {{middle.bX, r.Top}, {r.Right, middle.bY}, {middle.bX, r.Bottom}, {r.Left, middle.bY}}}[std::size_t(index - 1)];
+        return std::array<TKSLPto, 4>{{{middle.bX, r.Top},
+                                       {r.Right, middle.bY},
+                                       {middle.bX, r.Bottom},
+                                       {r.Left, middle.bY}}}[std::size_t(index - 1)];
     constexpr TTypes own{itPoint, itSymbol, itLine, itArrowLine, itPolyLine, itPolygon};
     if (own.Has(fItemType))
         return GetPoint(index);
@@ -175,7 +177,8 @@ TKSLShape TVGRBaseItem::Shape() const {
     const TKSLChain chain = Chain();
     if (chain.first < 1 || chain.last <= chain.first)
         return {};
-    return TKSLShape::Segments(TKSLPtoA(fPoints.begin() + (chain.first - 1), fPoints.begin() + chain.last), chain.closed);
+    return TKSLShape::Segments(TKSLPtoA(fPoints.begin() + (chain.first - 1), fPoints.begin() + chain.last),
+                               chain.closed);
 }
 
 void TVGRBaseItem::IntersectsWith(const TVGRBaseItem& other) {

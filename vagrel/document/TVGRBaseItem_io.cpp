@@ -10,6 +10,7 @@
 #include <vagrel/foundation/Units.h>
 #include <vagrel/persistence/JsonColors.h>
 #include <vagrel/persistence/TBinaryWriter.h>
+#include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 
 namespace vagrel {

@@ -29,9 +29,10 @@ TVGRBaseLabel* TVGRBaseLabel::Create(TComponent*) {
 }
 
 TVGRBaseLabel::TVGRBaseLabel(TComponent* owner)
-    : TComponent(owner), fPrintInfo(std::make_unique<TVGRBasePrintInfo>(*this)), fData(std::make_unique<TVGRData>(*this)),
-      fMeasure(std::make_unique<TVGRMeasure>(*this)), fMapping(std::make_unique<TVGRMapping>(*this)),
-      fBackSurf(std::make_unique<TVGRBackSurf>(*this, true)), fSettings(std::make_unique<TVGRSettings>(*this)) {
+    : TComponent(owner), fPrintInfo(std::make_unique<TVGRBasePrintInfo>(*this)),
+      fData(std::make_unique<TVGRData>(*this)), fMeasure(std::make_unique<TVGRMeasure>(*this)),
+      fMapping(std::make_unique<TVGRMapping>(*this)), fBackSurf(std::make_unique<TVGRBackSurf>(*this, true)),
+      fSettings(std::make_unique<TVGRSettings>(*this)) {
     NeedFirstLayer();
     NeedFirstDimStyle();
 }

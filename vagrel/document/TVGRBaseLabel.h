@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The document: it owns the items, layers, styles and settings, runs the update cycle and tells its observers.
 //
-// The body of this class is spread by topic: TVGRBaseLabel.cpp (life, identifiers), _Update (update cycle, reading bracket,
-// clearing), _Units (units and values), _Lists (accessors, ownership, layers), _io (JSON), TitleBlock.cpp, svg/SaveSVG.cpp.
+// The body of this class is spread by topic: TVGRBaseLabel.cpp (life, identifiers), _Update (update cycle, reading
+// bracket, clearing), _Units (units and values), _Lists (accessors, ownership, layers), _io (JSON), TitleBlock.cpp,
+// svg/SaveSVG.cpp.
 #pragma once
 
 #include <vagrel/document/Events.h>
@@ -34,10 +35,11 @@ class TVGRMeasure;
 class TVGRSettings;
 struct TKSLExtent;
 
-/// A document. Abstract: a host derives its own, which constructs the items, reads and writes files, prints and exports.
+/// A document. Abstract: a host derives its own, which constructs the items, reads and writes files, prints and
+/// exports.
 ///
-/// Lists are read by accessors that count from 1 and answer null outside; layers fall back to the first one. The document
-/// belongs to one thread, the host's main thread.
+/// Lists are read by accessors that count from 1 and answer null outside; layers fall back to the first one. The
+/// document belongs to one thread, the host's main thread.
 class TVGRBaseLabel : public TComponent {
 public:
     template <class T>
@@ -59,9 +61,11 @@ public:
     void Clear(TKSLClearSet what, bool paint);
     /// Opens the reading of a whole document or of a paste: nothing is recorded, nobody is told.
     void BeginRead(bool paste);
-    /// Resolves the references of what was read and tells the observers. Finishes its clearing also when stored JSON is bad.
+    /// Resolves the references of what was read and tells the observers. Finishes its clearing also when stored JSON is
+    /// bad.
     void EndRead(bool units);
-    /// Opens an update bracket: what changes in it makes one undo step and one repaint. Brackets are flags, not counters.
+    /// Opens an update bracket: what changes in it makes one undo step and one repaint. Brackets are flags, not
+    /// counters.
     void BeginUpdate(bool paintOnEnd);
     void EndUpdate();
     void EndUpdateSelection();
@@ -92,7 +96,8 @@ public:
     void RaiseMaxID(std::int32_t id);
     /// True when another item than `item` has this identifier, without regard to case.
     bool RepeatID(std::u16string_view id, const TVGRBaseItem* item) const;
-    /// By number or by identifier, without regard to case; null when absent. `scrollToView` selects it and scrolls there.
+    /// By number or by identifier, without regard to case; null when absent. `scrollToView` selects it and scrolls
+    /// there.
     TVGRBaseItem* SearchItem(std::int32_t id, bool scrollToView);
     TVGRBaseItem* SearchItem(std::u16string_view id, bool scrollToView);
     void ScrollItem(TVGRBaseItem& item);
@@ -160,7 +165,8 @@ public:
     void Adopt(TVGRCounter& counter);
     void Forget(TVGRCounter& counter);
 
-    // Units and values. "Restricted" quantities are shown in millimetres when the document's unit is larger than a centimetre.
+    // Units and values. "Restricted" quantities are shown in millimetres when the document's unit is larger than a
+    // centimetre.
 
     TKSLUnits GetUnits() const { return fUnits; }
     /// In emLabelling and emFlowChart units larger than a centimetre fall back to millimetres.
@@ -328,8 +334,8 @@ protected:
     /// Creates the sub-objects and the first layer and dimension style.
     explicit TVGRBaseLabel(TComponent* owner);
 
-    /// Ends everything that belongs to the document; a second call does nothing. A host whose items use what the host owns
-    /// calls it first in its own destructor. While it runs nobody is told of anything.
+    /// Ends everything that belongs to the document; a second call does nothing. A host whose items use what the host
+    /// owns calls it first in its own destructor. While it runs nobody is told of anything.
     void Teardown();
     void Notification(TComponent* component, TOperation operation) override;
     /// Takes an item out of every list and destroys it.
@@ -419,7 +425,9 @@ private:
 /// An update bracket that closes with its scope, after an exception too.
 class UpdateScope {
 public:
-    explicit UpdateScope(TVGRBaseLabel& label, bool paintOnEnd = true) : fLabel(label) { label.BeginUpdate(paintOnEnd); }
+    explicit UpdateScope(TVGRBaseLabel& label, bool paintOnEnd = true) : fLabel(label) {
+        label.BeginUpdate(paintOnEnd);
+    }
     UpdateScope(const UpdateScope&) = delete;
     UpdateScope& operator=(const UpdateScope&) = delete;
     // Observers that are told at the end may throw.

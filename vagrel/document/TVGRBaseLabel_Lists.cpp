@@ -25,7 +25,8 @@ auto* At(const List& list, int index) {
 // Lets go of an object that destroys itself; searched from the end, where a failed construction left it.
 template <class T>
 bool Release(std::vector<std::unique_ptr<T>>& list, const T& object) {
-    const auto found = std::find_if(list.rbegin(), list.rend(), [&](const auto& owned) { return owned.get() == &object; });
+    const auto found =
+        std::find_if(list.rbegin(), list.rend(), [&](const auto& owned) { return owned.get() == &object; });
     if (found == list.rend())
         return false;
     found->release();
@@ -103,7 +104,8 @@ void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
     if (!fIntersect.empty()) {
         const std::scoped_lock guard(fCriticalSection);
         const std::int32_t id = item.GetInID();
-        std::erase_if(fIntersect, [id](const TIntSecPoint& crossing) { return crossing.fID1 == id || crossing.fID2 == id; });
+        std::erase_if(fIntersect,
+                      [id](const TIntSecPoint& crossing) { return crossing.fID1 == id || crossing.fID2 == id; });
     }
 }
 

@@ -30,7 +30,8 @@ constexpr TDests EditorInspector{duEditor, duInspector};
 // Who is told of a change.
 constexpr std::array<TDests, chSelSymbol + 1> Audience = [] {
     std::array<TDests, chSelSymbol + 1> table{};
-    for (TKSChange change : {chLabelDef, chBackSurf, chAligns, chUnits, chClearSelect, chCursor, chSelCur, chPickSel, chSelSymbol})
+    for (TKSChange change :
+         {chLabelDef, chBackSurf, chAligns, chUnits, chClearSelect, chCursor, chSelCur, chPickSel, chSelSymbol})
         table[change] = Editor;
     for (TKSChange change : {chMeasure, chPaint, chDraw})
         table[change] = EditorPreview;

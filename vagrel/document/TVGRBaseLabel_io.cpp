@@ -12,6 +12,7 @@
 #include <vagrel/items/lines/TVGRDimStyle.h>
 #include <vagrel/merge/TVGRCounter.h>
 #include <vagrel/merge/TVGRData.h>
+#include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 #include <vagrel/symbols/TVGRBaseLibSymbol.h>
 

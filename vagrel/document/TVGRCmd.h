@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The commands that remember what a setter is about to change. Each setter calls `AddCommand` of one of these first.
 //
-// Recording itself is not built yet: the calls stand at their places and keep nothing, and `Undo` of the document says so.
+// Recording itself is not built yet: the calls stand at their places and keep nothing, and `Undo` of the document says
+// so.
 #pragma once
 
 #include <vagrel/foundation/Enumerations.h>

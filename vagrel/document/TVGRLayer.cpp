@@ -127,7 +127,8 @@ void TVGRLayer::SetFileImg(std::u16string_view file) {
     if (!inFolder && !fs::exists(target)) {
         std::error_code error;
         if (!fs::copy_file(source, target, error))
-            throw EStreamError("cannot copy \"" + source.string() + "\" to \"" + target.string() + "\": " + error.message());
+            throw EStreamError("cannot copy \"" + source.string() + "\" to \"" + target.string() +
+                               "\": " + error.message());
     }
     fFileImg = FromUtf8(source.filename().string());
     // Compared exactly: ".PNG" counts as any other.

@@ -66,7 +66,8 @@ public:
     const std::u16string& GetFontName() const { return fFontName; }
     void SetFontName(std::u16string_view value) { fFontName = value; }
 
-    // The background picture. Margins are in the restricted document unit; a margin beyond the label becomes half of it.
+    // The background picture. Margins are in the restricted document unit; a margin beyond the label becomes half of
+    // it.
 
     float GetImgMarLeft() const { return Restricted(fImgMarLeft); }
     float GetImgMarTop() const { return Restricted(fImgMarTop); }
@@ -79,8 +80,8 @@ public:
     bool HasImgMargins() const { return fImgMarLeft > 0 || fImgMarTop > 0 || fImgMarRight > 0 || fImgMarBottom > 0; }
     /// The bare name of the picture's file.
     const std::u16string& GetFileImg() const { return fFileImg; }
-    /// Copies the file into the document's image folder unless it is there, and takes its bare name. Drops the bytes that
-    /// were held. Throws EStreamError when the copy fails.
+    /// Copies the file into the document's image folder unless it is there, and takes its bare name. Drops the bytes
+    /// that were held. Throws EStreamError when the copy fails.
     void SetFileImg(std::u16string_view file);
     TKSLImgType GetImageType() const { return fImageType; }
     bool GetEmbeded() const { return fEmbeded; }

@@ -6,6 +6,7 @@
 #include <vagrel/foundation/Base64.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/persistence/JsonColors.h>
+#include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 
 namespace vagrel {
@@ -17,9 +18,15 @@ struct TOptionKey {
     std::u16string_view key;
 };
 constexpr TOptionKey OptionKeys[] = {
-    {lopVisible, u"Visible"}, {lopPrint, u"Print"},   {lopSelectable, u"Selectable"},
-    {lopExport, u"Export"},   {lopBox, u"Box"},       {lopImage, u"Image"},
-    {lopMap, u"Map"},         {lopPrintBack, u"PrintBack"}, {lopExportBack, u"ExportBack"},
+    {lopVisible, u"Visible"},
+    {lopPrint, u"Print"},
+    {lopSelectable, u"Selectable"},
+    {lopExport, u"Export"},
+    {lopBox, u"Box"},
+    {lopImage, u"Image"},
+    {lopMap, u"Map"},
+    {lopPrintBack, u"PrintBack"},
+    {lopExportBack, u"ExportBack"},
 };
 
 } // namespace

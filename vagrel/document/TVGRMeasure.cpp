@@ -80,9 +80,10 @@ void TVGRMeasure::ValidateDrawScaleForPaper(std::int64_t width, std::int64_t hei
         return;
     const std::int64_t largest = MaxDrawScaleForPaper(width, height);
     if (fDrawScale > largest)
-        throw EInvalidOperation(u"Drawing scale 1:" + IntToStr(fDrawScale) +
-                                u" cannot be represented with Int64 base coordinates for this paper size; maximum is 1:" +
-                                IntToStr(largest));
+        throw EInvalidOperation(
+            u"Drawing scale 1:" + IntToStr(fDrawScale) +
+            u" cannot be represented with Int64 base coordinates for this paper size; maximum is 1:" +
+            IntToStr(largest));
 }
 
 void TVGRMeasure::Modified(bool notify) {

@@ -103,8 +103,8 @@ void TVGRBaseLabel::FillBoxItems(TVGRLayer& layer) {
 
     for (const TBoxLine& row : BoxLines)
         if (drawing || !row.onlyDrawing)
-            place(CreateLine(fromRight(row.left), fromBottom(row.top), fromRight(row.right), fromBottom(row.bottom)), row.id,
-                  0.5f);
+            place(CreateLine(fromRight(row.left), fromBottom(row.top), fromRight(row.right), fromBottom(row.bottom)),
+                  row.id, 0.5f);
     frame(u"bxIDFrame", fromRight(90000), fromBottom(50000), MulSat(80000, scale), MulSat(40000, scale));
     frame(u"bxIDPageFrame", MulSat(10000, scale), MulSat(10000, scale), SubSat(width, MulSat(20000, scale)),
           SubSat(height, MulSat(20000, scale)));

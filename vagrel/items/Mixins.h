@@ -2,8 +2,9 @@
 // What many families have, as layers between a base class and a family: the dash style, the width and height.
 #pragma once
 
-#include <vagrel/document/TVGRBaseItem.h>
+#include <vagrel/document/TVGR2DItem.h>
 #include <vagrel/document/TVGRCmd.h>
+#include <vagrel/foundation/Units.h>
 #include <vagrel/persistence/TBinaryWriter.h>
 #include <vagrel/persistence/TJsonObject.h>
 

@@ -21,7 +21,9 @@ constexpr int ArrowOpen = 8;
 
 } // namespace
 
-std::int32_t TTerminal::ClampSize(std::int64_t base) { return std::int32_t(std::clamp<std::int64_t>(base, 500, 50000)); }
+std::int32_t TTerminal::ClampSize(std::int64_t base) {
+    return std::int32_t(std::clamp<std::int64_t>(base, 500, 50000));
+}
 
 void TTerminals::Ini(const TVGRBaseLabel& label) {
     from.color = to.color = label.GetSettings().GetFillTermColor();
@@ -78,8 +80,8 @@ void TTerminals::WriteSVG(const TVGRBaseItem& item, TSVGOutput& out) const {
         if (term.type != ttNone)
             out.svg.push_back(TExSVG::DrawTerm(term.type, out.ExportType, item.GetPointMMX(tip), item.GetPointMMY(tip),
                                                item.GetPointMMX(back), item.GetPointMMY(back), item.GetPenWidth(),
-                                               out.Factor, GetBaseValue(term.size), item.GetColor(), term.color, ArrowOpen,
-                                               false));
+                                               out.Factor, GetBaseValue(term.size), item.GetColor(), term.color,
+                                               ArrowOpen, false));
     };
     const int last = item.NumPoints();
     write(from, 1, 2);

@@ -4,6 +4,7 @@
 
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/foundation/Rounding.h>
+#include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 
 #include <algorithm>

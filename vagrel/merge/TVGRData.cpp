@@ -6,6 +6,7 @@
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/messages/TVGRMsg.h>
+#include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 
 #include <algorithm>
@@ -190,7 +191,8 @@ void TVGRData::ReadJson(std::int32_t, TJsonObject& json) {
     TJsonArray& items = json.GetArray(u"CsvFields");
     for (int i = 0; i < items.Count(); ++i) {
         TJsonObject& item = items.GetObject(i);
-        fields.push_back({item.GetString(u"Name"), item.GetString(u"Caption"), TKSLFieldType(item.GetInt(u"FieldType"))});
+        fields.push_back(
+            {item.GetString(u"Name"), item.GetString(u"Caption"), TKSLFieldType(item.GetInt(u"FieldType"))});
     }
     if (!fields.empty())
         ReplaceCsvSource(std::move(fields));

@@ -80,8 +80,8 @@ public:
     const std::u16string& GetFieldRepeat() const { return fFieldRepeat; }
     void SetFieldRepeat(std::u16string_view value) { fFieldRepeat = value; }
 
-    /// Derives one source for each array of the JSON text, its fields from the array's first object. Throws EVagrel when the
-    /// text does not begin with "{", and what the parser throws.
+    /// Derives one source for each array of the JSON text, its fields from the array's first object. Throws EVagrel
+    /// when the text does not begin with "{", and what the parser throws.
     void CheckJson();
 
     /// What a document forgets when everything is cleared: the link, the JSON text, the name of the CSV file.

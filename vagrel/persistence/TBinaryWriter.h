@@ -16,7 +16,7 @@ class TBinaryWriter {
 public:
     /// A number in the width of its type; call as `Write<std::int16_t>(x)` to state the width.
     template <class T>
-        requires std::integral<T> || std::floating_point<T>
+    requires std::integral<T> || std::floating_point<T>
     void Write(T value) {
         static_assert(std::endian::native == std::endian::little);
         char raw[sizeof(T)];
@@ -41,8 +41,7 @@ public:
     explicit TBinaryReader(std::string_view bytes) : fBytes(bytes) {}
 
     template <class T>
-        requires std::integral<T> || std::floating_point<T>
-    T Read() {
+    requires std::integral<T> || std::floating_point<T> T Read() {
         T value;
         std::memcpy(&value, Take(sizeof(T)).data(), sizeof(T));
         return value;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What an item needs to write itself as SVG: the two lists of the document, the form of numbers, and whether to name elements.
+// What an item needs to write itself as SVG: the two lists of the document, the form of numbers, and whether to name
+// elements.
 #pragma once
 
 #include <vagrel/svg/SvgElement.h>
@@ -10,7 +11,8 @@
 
 namespace vagrel {
 
-/// One export. Items append complete elements to `svg`, in the order in which they paint, and shared definitions to `defs`.
+/// One export. Items append complete elements to `svg`, in the order in which they paint, and shared definitions to
+/// `defs`.
 struct TSVGOutput {
     TKSLExportSVG ExportType = svCurrentUnit;
     float Factor = 1;

@@ -10,7 +10,8 @@ namespace vagrel {
 
 class TJsonArray;
 
-/// A reusable drawing with a GUID. Documents keep one copy of each that they use; its elements join with the symbol library.
+/// A reusable drawing with a GUID. Documents keep one copy of each that they use; its elements join with the symbol
+/// library.
 class TVGRBaseLibSymbol {
 public:
     virtual ~TVGRBaseLibSymbol() = default;

@@ -6,6 +6,7 @@
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Units.h>
 #include <vagrel/persistence/JsonColors.h>
+#include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 
 #include <algorithm>

@@ -21,10 +21,10 @@ class TVGRDimStyle {
 public:
     /// An unnamed style, to be read.
     explicit TVGRDimStyle(TVGRBaseLabel& owner);
-    /// The colours are those of a new style, whatever is given. `assignID` takes a free number, `active` makes the style
-    /// the active one.
-    TVGRDimStyle(TVGRBaseLabel& owner, std::u16string_view name, TAlphaColor color, TAlphaColor fillColor, bool assignID,
-                 bool active);
+    /// The colours are those of a new style, whatever is given. `assignID` takes a free number, `active` makes the
+    /// style the active one.
+    TVGRDimStyle(TVGRBaseLabel& owner, std::u16string_view name, TAlphaColor color, TAlphaColor fillColor,
+                 bool assignID, bool active);
     TVGRDimStyle(const TVGRDimStyle&) = delete;
     TVGRDimStyle& operator=(const TVGRDimStyle&) = delete;
     ~TVGRDimStyle();

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+// The rectangle.
+#include <vagrel/items/figures/TVGRBaseRectangle.h>
+
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/foundation/Rounding.h>
+
+#include <algorithm>
+
+namespace vagrel {
+
+TVGRBaseRectangle::TVGRBaseRectangle(TVGRBaseLabel& owner, bool preview) : WithLineType(owner, itRectangle, preview) {}
+
+TVGRBaseRectangle::TVGRBaseRectangle(TVGRBaseLabel& owner, TVGRLayer& layer, bool preview)
+    : WithLineType(owner, itRectangle, layer, preview) {}
+
+float TVGRBaseRectangle::GetRadio() const { return GetValue(fRadio, fOwner.GetUnits()); }
+
+void TVGRBaseRectangle::SetRadio(float value) {
+    SetBaseRadio(std::min(SetValue(value, fOwner.GetUnits()), BaseHeight() / 2));
+}
+
+void TVGRBaseRectangle::SetBaseRadio(std::int64_t value) {
+    if (value == fRadio)
+        return;
+    TVGRBaseValueCmd::AddCommand(*this, cmd::Radio);
+    fRadio = value;
+    StateUpdate();
+}
+
+TKSLShape TVGRBaseRectangle::Shape() const {
+    const TKSLPto a = At(1), b = At(2);
+    return TKSLShape::Segments({a, {b.bX, a.bY}, b, {a.bX, b.bY}}, true);
+}
+
+bool TVGRBaseRectangle::Pick(std::int64_t bx, std::int64_t by, std::int64_t gap, bool fill) {
+    if (!TVGRBaseItem::Pick(bx, by, gap, fill))
+        return false;
+    if (fFill)
+        return true;
+    fCheckRect = fBoundsRect;
+    const std::int64_t ring = AddSat(gap, fPenWidth);
+    fCheckRect.Inflate(SubSat(0, ring), SubSat(0, ring));
+    return !fCheckRect.Contains(bx, by);
+}
+
+bool TVGRBaseRectangle::CheckPoint(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLSnap snap,
+                                   TKSLRef& ref) const {
+    const TKSLPto a = At(1), b = At(2);
+    const TKSLPto middle{AddSat(a.bX, SubSat(b.bX, a.bX) / 2), AddSat(a.bY, SubSat(b.bY, a.bY) / 2)};
+    const TKSLPto left{std::min(a.bX, b.bX), middle.bY}, right{std::max(a.bX, b.bX), middle.bY};
+    const TKSLPto top{middle.bX, std::min(a.bY, b.bY)}, bottom{middle.bX, std::max(a.bY, b.bY)};
+    auto any = [&](std::initializer_list<TKSLPto> candidates) {
+        return std::ranges::any_of(candidates, [&](TKSLPto point) { return Snap(bx, by, gap, point, rtyRect, ref); });
+    };
+    switch (snap) {
+    case snMiddle:
+        return any({top, bottom, left, right});
+    case snCenter:
+        return Snap(bx, by, gap, middle, rtyCircle, ref);
+    case snEnd:
+        return fRadio == 0 && any({a, {a.bX, b.bY}, b, {b.bX, a.bY}});
+    case snPerpendicular: {
+        const TKSLPto topLeft{left.bX, top.bY}, topRight{right.bX, top.bY};
+        const TKSLPto bottomLeft{left.bX, bottom.bY}, bottomRight{right.bX, bottom.bY};
+        return SnapFoot(bx, by, gap, topLeft, topRight, ref) || SnapFoot(bx, by, gap, topRight, bottomRight, ref) ||
+               SnapFoot(bx, by, gap, bottomLeft, bottomRight, ref) || SnapFoot(bx, by, gap, topLeft, bottomLeft, ref);
+    }
+    default:
+        return false;
+    }
+}
+
+TKSLBase TVGRBaseRectangle::CenterPoint() const {
+    return {AddSat(fBoundsRect.Left, fBoundsRect.GetWidth() / 2), AddSat(fBoundsRect.Top, fBoundsRect.GetHeight() / 2)};
+}
+
+void TVGRBaseRectangle::CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& props) const {
+    Keep(base, props, {iyID, iyLayer, iy2D, iyBack, iyTwoPoint, iyBorder, iyRadio, iyWidthHeight}, {iyLine});
+}
+
+void TVGRBaseRectangle::WriteKeys(TJsonObject& json) const {
+    WithLineType::WriteKeys(json);
+    json.SetFloat(u"Radio", RoundTo3(GetRadio()));
+}
+
+void TVGRBaseRectangle::ReadKeys(std::int32_t version, TJsonObject& json) {
+    WithLineType::ReadKeys(version, json);
+    SetRadio(float(json.GetFloat(u"Radio")));
+}
+
+void TVGRBaseRectangle::WriteFields(TBinaryWriter& writer) const {
+    WithLineType::WriteFields(writer);
+    writer.Write(ToInt32(fRadio));
+}
+
+void TVGRBaseRectangle::ReadFields(std::int32_t version, TBinaryReader& reader) {
+    WithLineType::ReadFields(version, reader);
+    fRadio = reader.Read<std::int32_t>();
+}
+
+void TVGRBaseRectangle::WriteSVG(TSVGOutput& out) const {
+    SvgElement box = out.Element();
+    (box << "<rect" << GetSVGID(out) << " x=\"").Val(GetPointMMX(1)) << "\" y=\"";
+    box.Val(GetPointMMY(1)) << "\" width=\"";
+    box.Val(FromBase(BaseWidth())) << "\" height=\"";
+    box.Val(FromBase(BaseHeight())) << "\" ";
+    if (fRadio != 0)
+        (box << " rx=\"").Val(GetMMRadio()) << "\" ";
+    WriteFill(box) << " ";
+    WriteStroke(box, fLineType) << "/>";
+    out.svg.push_back(box.Take());
+}
+
+} // namespace vagrel

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+// The sector of a circle.
+#include <vagrel/items/figures/TVGRBaseSector.h>
+
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/TDraw2D.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace vagrel {
+
+TVGRBaseSector::TVGRBaseSector(TVGRBaseLabel& owner, bool preview) : TVGRRoundItem(owner, itSector, preview) {}
+
+TVGRBaseSector::TVGRBaseSector(TVGRBaseLabel& owner, TVGRLayer& layer, bool preview)
+    : TVGRRoundItem(owner, itSector, layer, preview) {}
+
+void TVGRBaseSector::AdjustStartAngle() { fCalcStart = fAngleStart + float(DegAngle(fAngle)); }
+
+void TVGRBaseSector::SetRadio(float value) { SetBaseRadio(SetValue(value, fOwner.GetUnits())); }
+
+void TVGRBaseSector::SetBaseRadio(std::int64_t value) {
+    if (value == fBaseRadioX)
+        return;
+    Rebuild(value, value);
+    StateUpdate();
+}
+
+void TVGRBaseSector::SetStartAngle(float value) {
+    value = std::clamp(value, -359.0f, 360.0f);
+    if (value == fAngleStart)
+        return;
+    fAngleStart = value;
+    AdjustStartAngle();
+    StateUpdate();
+}
+
+void TVGRBaseSector::SetSweepAngle(float value) {
+    const float start = std::fabs(fAngleStart);
+    value = std::max(value, 0.0f);
+    if (value + start > 360)
+        value = 360 - start;
+    if (value == fAngleGap)
+        return;
+    fAngleGap = value;
+    StateUpdate();
+}
+
+void TVGRBaseSector::SetAngle(TKSLAngle value) {
+    if (value == fAngle)
+        return;
+    fAngle = value;
+    AdjustStartAngle();
+    StateUpdate();
+}
+
+void TVGRBaseSector::RotateLeft() {
+    TVGRRoundItem::RotateLeft();
+    AdjustStartAngle();
+}
+
+void TVGRBaseSector::RotateRight() {
+    TVGRRoundItem::RotateRight();
+    AdjustStartAngle();
+}
+
+bool TVGRBaseSector::Pick(std::int64_t bx, std::int64_t by, std::int64_t gap, bool fill) {
+    return TVGRBaseItem::Pick(bx, by, gap, fill) && PickDisc(bx, by, gap);
+}
+
+bool TVGRBaseSector::SearchRect(const TKSLRect& rect, bool intersects) const {
+    if (!TVGRBaseItem::SearchRect(rect, intersects))
+        return false;
+    if (!intersects || rect.Contains(fBoundsRect))
+        return true;
+    auto inside = [&](std::int64_t x, std::int64_t y) {
+        return TDraw2D::Distance(fBaseX, fBaseY, x, y) <= fBaseRadioX;
+    };
+    return inside(rect.Left, rect.Top) || inside(rect.Right, rect.Top) || inside(rect.Right, rect.Bottom) ||
+           inside(rect.Left, rect.Bottom);
+}
+
+TPoint2D TVGRBaseSector::Rim(float degrees) const {
+    const double angle = double(degrees) * std::numbers::pi / 180;
+    return {double(fBaseX) + double(fBaseRadioX) * std::cos(angle),
+            double(fBaseY) + double(fBaseRadioX) * std::sin(angle)};
+}
+
+void TVGRBaseSector::CheckFit(TKSLExtent& extent) const {
+    if (fAngleGap == 360)
+        return extent.Widen(fBaseX, fBaseY, fBaseRadioX);
+    extent.Widen(fBaseX, fBaseY, 0);
+    for (const TPoint2D& rim : {Rim(fCalcStart), Rim(fCalcStart + fAngleGap)})
+        extent.Widen(Round(rim.X), Round(rim.Y), 0);
+}
+
+void TVGRBaseSector::CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& props) const {
+    Keep(base, props, {iyID, iyLayer, iy2D, iyBack, iyBorder, iyAngle, iyRadio, iyCenter}, {iyLine, iySector});
+}
+
+void TVGRBaseSector::WriteKeys(TJsonObject& json) const {
+    TVGRRoundItem::WriteKeys(json);
+    json.SetFloat(u"StartAngle", fAngleStart);
+    json.SetFloat(u"SweepAngle", fAngleGap);
+}
+
+void TVGRBaseSector::ReadKeys(std::int32_t version, TJsonObject& json) {
+    TVGRRoundItem::ReadKeys(version, json);
+    fAngleStart = float(json.GetFloat(u"StartAngle"));
+    fAngleGap = float(json.GetFloat(u"SweepAngle"));
+    AdjustStartAngle();
+}
+
+void TVGRBaseSector::WriteFields(TBinaryWriter& writer) const {
+    TVGRRoundItem::WriteFields(writer);
+    writer.Write(fAngleStart);
+    writer.Write(fAngleGap);
+}
+
+void TVGRBaseSector::ReadFields(std::int32_t version, TBinaryReader& reader) {
+    TVGRRoundItem::ReadFields(version, reader);
+    fAngleStart = reader.Read<float>();
+    fAngleGap = reader.Read<float>();
+    AdjustStartAngle();
+}
+
+void TVGRBaseSector::WriteSVG(TSVGOutput& out) const {
+    if (fAngleGap == 360)
+        return WriteCircle(out);
+    if (!Draws())
+        return;
+    SvgElement slice = out.Element();
+    auto place = [&](TPoint2D point) {
+        slice.Val(float(fOwner.ToPaper(point.X))) << ",";
+        slice.Val(float(fOwner.ToPaper(point.Y)));
+    };
+    slice << "<path" << GetSVGID(out) << " d=\"M";
+    place({double(fBaseX), double(fBaseY)});
+    slice << " L";
+    place(Rim(fCalcStart));
+    (slice << " A").Val(FromBase(fBaseRadioX)) << ",";
+    slice.Val(FromBase(fBaseRadioX)) << " 0 " << (fAngleGap > 180 ? "1" : "0") << ",1 ";
+    place(Rim(fCalcStart + fAngleGap));
+    slice << (fFill ? " Z\" " : " Z\"");
+    WriteFill(slice) << " ";
+    slice.Stroke(fColor) << " stroke-width=\"";
+    (slice.Pen(GetPenWidth()) << "\" ").Dash(fLineType) << "/>";
+    out.svg.push_back(slice.Take());
+}
+
+} // namespace vagrel
