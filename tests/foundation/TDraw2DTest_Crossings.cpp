@@ -6,8 +6,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
 #include <numbers>
+#include <optional>
 #include <random>
+#include <tuple>
 
 namespace vagrel {
 
