@@ -77,7 +77,6 @@ TEST(TDraw2DOffsets, PolygonsAndArcs) {
     const TKSLPtoA square{{0, 0}, {10, 0}, {10, 0}, {10, 10}, {0, 10}};
     EXPECT_EQ(D::PoligonParalel(square, 2, false), (TKSLPtoA{{0, -2}, {10, 0}, {12, 0}, {10, 12}, {-2, 10}}));
     EXPECT_EQ(D::PoligonParalel(square, 2, true)[0], (TKSLPto{0, 2}));
-    EXPECT_EQ(D::PoligonParalel({{3, 3}}, 2, true), (TKSLPtoA{{3, 3}}));
     Six p;
     EXPECT_TRUE(D::EquidistArc(100, 0, 0, 100, -100, 0, 10, 10, -20, p[0], p[1], p[2], p[3], p[4], p[5]));
     EXPECT_EQ(p, (Six{80, 0, 0, 80, -80, 0})) << "inward, whatever the sign";
@@ -90,11 +89,6 @@ TEST(TDraw2DOffsets, PolygonsAndArcs) {
     EXPECT_EQ(p, (Six{55, -96, 110, 0, 55, 96}));
     EXPECT_TRUE(D::EquidistArc(50, -87, -100, 0, 50, 87, 10, true, p[0], p[1], p[2], p[3], p[4], p[5]));
     EXPECT_EQ(p, (Six{45, -78, -45, -78, 45, 78})) << "half the negated sweep from the first end";
-    Base cx, cy, r;
-    double start, end;
-    EXPECT_TRUE(D::EquidistArc(1, 2, 100, 0.5, 1.5, -30, 1, 101, cx, cy, r, start, end));
-    EXPECT_EQ((std::array{cx, cy, r}), (std::array<Base, 3>{1, 2, 70}));
-    EXPECT_FALSE(D::EquidistArc(1, 2, 100, 0.5, 1.5, 100, 1, 2, cx, cy, r, start, end));
 }
 
 TEST(TDraw2DCrossings, LineAgainstLine) {
@@ -114,7 +108,6 @@ TEST(TDraw2DCrossings, LineAgainstLine) {
     EXPECT_TRUE(x == 18 && y == 24);
     EXPECT_FALSE(D::LinePerpenFromPoint(0, 0, 30, 40, 500, 0, true, x, y));
     EXPECT_FALSE(D::LinePerpenFromPoint(0, 0, 10, 0, 5, 0, false, x, y));
-    EXPECT_FALSE(D::LinePerpenFromPoint(3, 3, 3, 3, 5, 0, false, x, y));
 }
 
 TEST(TDraw2DCrossings, LineAgainstFigures) {
@@ -128,7 +121,6 @@ TEST(TDraw2DCrossings, LineAgainstFigures) {
     EXPECT_EQ(Ask(D::LineCrossEllipse, -200, 51, 0, 51, 0, 0, 100, 50), Answer{});
     EXPECT_EQ(Ask(D::LineCrossRect, -10, 5, 50, 5, 20, 20, 0, 0), (Answer{2, 0, 5, 20, 5}));
     EXPECT_EQ(Ask(D::LineCrossRect, -10, 10, 10, -10, 0, 0, 20, 20), (Answer{1, 0, 0, 0, 0})) << "a corner once";
-    EXPECT_EQ(Ask(D::LineCrossRect, 5, 5, 6, 6, 0, 0, 20, 20), Answer{});
 }
 
 TEST(TDraw2DCrossings, CircleAgainstCircle) {
@@ -150,9 +142,7 @@ TEST(TDraw2DCrossings, CircleAgainstCircle) {
 TEST(TDraw2DCrossings, FiguresAgainstRectangles) {
     const TKSLRect box(10, 10, 20, 20);
     EXPECT_TRUE(D::RectangleIntersectLine(0, 12, 30, 18, box));
-    EXPECT_TRUE(D::RectangleIntersectLine(12, 12, 13, 13, box));
     EXPECT_TRUE(D::RectangleIntersectLine(15, 0, 15, 30, TKSLRect(20, 20, 10, 10)));
-    EXPECT_FALSE(D::RectangleIntersectLine(0, 15, 9, 15, box));
     EXPECT_FALSE(D::RectangleIntersectLine(0, 15, 15, 31, box)) << "past the corner";
     EXPECT_TRUE(D::ArcIntersectsRect(0, 0, 20, 0, Pi / 2, box));
     EXPECT_FALSE(D::ArcIntersectsRect(0, 0, 20, Pi / 2, 2 * Pi, box)) << "the rest of the circle";
@@ -161,8 +151,6 @@ TEST(TDraw2DCrossings, FiguresAgainstRectangles) {
     EXPECT_FALSE(D::EllipseIntersectsRect(0, 0, 14, 14, box)) << "only the box of the circle";
     EXPECT_TRUE(D::EllipseIntersectsRect(15, 0, 0, 10, box));
     EXPECT_FALSE(D::EllipseIntersectsRect(9, 15, 0, 30, box));
-    EXPECT_TRUE(D::EllipseIntersectsRect(15, 15, 0, 0, box));
-    EXPECT_FALSE(D::EllipseIntersectsRect(15, 15, -1, 5, box));
 }
 
 TEST(TDraw2DExtend, ToFigures) {
@@ -182,7 +170,6 @@ TEST(TDraw2DExtend, ToFigures) {
         {"line, behind", Ask(toLine, -100, -9, -100, 9, 0, 0, 50, 0, 50, 0), {1, 50, 0, -100, 0}},
         {"line, reached", Ask(toLine, 20, -9, 20, 9, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
         {"line, parallel", Ask(toLine, 0, 9, 9, 9, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
-        {"circle", Ask(toCircle, 200, 0, 50, 0, 0, 50, 0, 50, 0), {1, 0, 0, 150, 0}},
         {"circle, from inside", Ask(toCircle, 0, 0, 50, 0, 0, 10, 0, 0, 0), {1, -50, 0, 10, 0}},
         {"circle, missed", Ask(toCircle, 200, 51, 50, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
         {"ellipse", Ask(toEllipse, 200, 0, 100, 50, 0, 30, 50, 30, 50, 30), {1, 0, 30, 120, 30}},

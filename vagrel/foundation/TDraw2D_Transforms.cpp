@@ -4,6 +4,8 @@
 
 #include <vagrel/foundation/TDraw2D_p.h>
 
+#include <functional>
+
 namespace vagrel {
 
 using namespace detail;
