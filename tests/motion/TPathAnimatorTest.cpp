@@ -51,6 +51,7 @@ TEST(TPathAnimator, PlacesFollowClosedForms) {
     } rows[] = {
         {"line", ptLine, {Line({1, 1}, {4, 5})}, 0.5, 2.5, 3, std::atan2(4, 3), 5},
         {"second leg", ptPolyline, {Line({0, 0}, {6, 0}), Line({6, 0}, {6, -2})}, 0.875, 6, -1, -pi / 2, 8},
+        {"joint", ptPolyline, {Line({0, 0}, {6, 0}), Line({6, 0}, {6, -2})}, 0.75, 6, 0, 0, 8},
         {"speeds", ptLine, {Line({0, 0}, {4, 0}, 2), Line({4, 0}, {8, 0}, -3)}, 0.5, 5, 0, 0, 8},
         {"no length", ptLine, {Line({3, 3}, {3, 3}), Line({3, 3}, {3, 3})}, 0.5, 3, 3, 0, 0.000002},
         {"unknown kind", TPathType(-1), {Line({0, 0}, {2, 0})}, 0.5, 1, 0, 0, 2},
@@ -61,15 +62,15 @@ TEST(TPathAnimator, PlacesFollowClosedForms) {
         {"arc of no angle", ptArc, {Round(4, 0, 90, 90)}, 0.5, 10, 24, pi, 0.000001},
         {"whole ellipse", ptEllipse, {Round(6, 2, 30, 30)}, 1, 10 + 3 * r, 21, std::atan2(r, -3), turn, 0.02},
         {"half ellipse", ptEllipse, {Round(6, 2, 180, 0)}, 0.5, 10, 22, 0, turn / 2, 0.01},
-        {"Bezier", ptBezier, {Hill}, 0.5, 2, 3, 0, 8, 0.002},
+        {"Bezier", ptBezier, {Hill}, 2.375 / 8, 0.625, 2.25, std::atan2(4, 3), 8, 0.002},
         {"straight Bezier", ptBezier, {Flat}, 0.3, 1.8, 0.9, std::atan2(1, 2), std::sqrt(45)},
     };
     for (const auto& row : rows) {
         TPathProbe path(row.type, row.path, 1);
         EXPECT_TRUE(path.To(row.time)) << row.what;
-        EXPECT_NEAR(path.x, row.x, 1e-9) << row.what;
-        EXPECT_NEAR(path.y, row.y, 1e-9) << row.what;
-        EXPECT_NEAR(path.rotation, row.rotation, 1e-9) << row.what;
+        EXPECT_NEAR(path.x, row.x, row.accuracy) << row.what;
+        EXPECT_NEAR(path.y, row.y, row.accuracy) << row.what;
+        EXPECT_NEAR(path.rotation, row.rotation, row.accuracy) << row.what;
         EXPECT_NEAR(path.GetPathLength(), row.length, row.accuracy) << row.what;
     }
 }
@@ -108,15 +109,15 @@ TEST(TPathAnimator, CurvesRunEvenly) {
 
 TEST(TPathAnimator, EasingsFollowClosedForms) {
     const std::tuple<TPathEasing, double, double> rows[] = {
-        {peLinear, 0.25, 0.75},      {peEaseIn, 0.0625, 0.5625},       {peEaseOut, 0.4375, 0.9375},
-        {peEaseInOut, 0.125, 0.875}, {peSmoothStep, 0.15625, 0.84375}, {TPathEasing(5), 0.25, 0.75},
+        {peLinear, 0.375, 0.75},       {peEaseIn, 0.140625, 0.5625},        {peEaseOut, 0.609375, 0.9375},
+        {peEaseInOut, 0.28125, 0.875}, {peSmoothStep, 0.31640625, 0.84375}, {TPathEasing(5), 0.375, 0.75},
     };
-    for (const auto& [easing, quarter, threeQuarters] : rows) {
+    for (const auto& [easing, threeEighths, threeQuarters] : rows) {
         TPathProbe path(ptLine, {Line({0, 0}, {1, 0})}, 8);
         path.Go(3);
         path.SetEasing(easing);
         EXPECT_NEAR(path.GetPathProgress(), 0.375, 1e-12) << "the place stays, easing " << easing;
-        EXPECT_TRUE(path.To(2) && path.x == quarter) << path.x << " easing " << easing;
+        EXPECT_TRUE(path.To(3) && path.x == threeEighths) << path.x << " easing " << easing;
         EXPECT_TRUE(path.Seek(threeQuarters, path.x, path.y, path.rotation));
         EXPECT_NEAR(path.GetProgress(), 0.75, 1e-12) << "easing " << easing;
         EXPECT_NEAR(path.x, threeQuarters, 1e-12) << "easing " << easing;
@@ -164,7 +165,8 @@ TEST(TPathAnimator, WaypointsAreCrossedInTheOrderOfTheWay) {
     EXPECT_THAT(path.GetCrossedWaypoints(0.25, 0.25), IsEmpty());
     EXPECT_THAT(path.GetCrossedWaypoints(0.75, 0.25), ElementsAre(1));
     path.SetEasing(peEaseIn);
-    EXPECT_THAT(path.GetCrossedWaypoints(0.4, 0.5), ElementsAre(1)) << "arguments are progress in time";
+    EXPECT_THAT(path.GetCrossedWaypoints(0.8, 0.9), ElementsAre(2)) << "arguments are progress in time";
+    EXPECT_THAT(path.GetCrossedWaypoints(0.2, 0.4), IsEmpty());
 }
 
 TEST(TPathAnimator, MisuseThrowsAndChangesNothing) {

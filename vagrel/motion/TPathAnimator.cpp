@@ -181,14 +181,11 @@ double TPathAnimator::GetPathProgress() const { return ApplyEasing(GetProgress()
 void TPathAnimator::SetEasing(TPathEasing value) {
     const double progress = GetPathProgress();
     FEasing = value;
-    if (FTotalTime > 0)
-        FCurrentTime = InverseEasing(progress) * FTotalTime;
+    FCurrentTime = InverseEasing(progress) * FTotalTime;
 }
 
 bool TPathAnimator::Seek(double progress, double& x, double& y, double& rotation) {
     RequireProgress(progress);
-    if (!(FTotalTime > 0))
-        return false;
     FCurrentTime = InverseEasing(progress) * FTotalTime;
     return CalculatePosition(FCurrentTime, x, y, rotation);
 }
