@@ -28,6 +28,11 @@ class EOutOfRange : public EVagrel {
     using EVagrel::EVagrel;
 };
 
+/// An argument outside the range that an operation takes.
+class EArgumentOutOfRangeException : public EOutOfRange {
+    using EOutOfRange::EOutOfRange;
+};
+
 /// Text that does not convert to the wanted type.
 class EConvertError : public EVagrel {
     using EVagrel::EVagrel;
