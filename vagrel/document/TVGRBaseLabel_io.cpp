@@ -9,6 +9,7 @@
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/document/TVGRSettings.h>
 #include <vagrel/foundation/Exceptions.h>
+#include <vagrel/foundation/Text.h>
 #include <vagrel/items/lines/TVGRDimStyle.h>
 #include <vagrel/merge/TVGRCounter.h>
 #include <vagrel/merge/TVGRData.h>
@@ -25,9 +26,17 @@ constexpr std::int32_t AngleVersion = 3100;
 
 // Constructs one element for each object of an array. An element adds itself to the document.
 template <class T>
-void ReadElements(TVGRBaseLabel& label, std::int32_t version, TJsonArray& array) {
+void ReadElements(TVGRBaseLabel& label, std::int32_t version, TJsonObject& json, std::u16string_view key) {
+    const std::string name = ToUtf8(key);
+    TJsonArray& array = AtPlace(name, [&]() -> TJsonArray& { return json.GetArray(key); });
     for (int i = 0; i < array.Count(); ++i)
-        (new T(label))->ReadJson(version, array.GetObject(i));
+        AtPlace(name + "[" + std::to_string(i) + "]", [&] { (new T(label))->ReadJson(version, array.GetObject(i)); });
+}
+
+// Lets one object read its part of the file.
+template <class Part>
+void ReadPart(Part& part, std::int32_t version, TJsonObject& json, std::u16string_view key) {
+    AtPlace(ToUtf8(key), [&] { part.ReadJson(version, json.GetObject(key)); });
 }
 
 template <class List>
@@ -72,18 +81,18 @@ void TVGRBaseLabel::ReadJson(TJsonObject& json) {
     fAngle = version >= AngleVersion ? TKSLAngle(json.GetInt(u"Angle")) : ag0;
     // Sizes must not be tested against the scale of the document that stood here before.
     fMeasure->ResetDrawScale();
-    fMeasure->ReadJson(version, json.GetObject(u"Measures"));
-    fBackSurf->ReadJson(version, json.GetObject(u"BackSurface"));
-    fSettings->ReadJson(version, json.GetObject(u"Settings"));
-    fData->ReadJson(version, json.GetObject(u"Data"));
+    ReadPart(*fMeasure, version, json, u"Measures");
+    ReadPart(*fBackSurf, version, json, u"BackSurface");
+    ReadPart(*fSettings, version, json, u"Settings");
+    ReadPart(*fData, version, json, u"Data");
     if (json.GetArray(u"Symbols").Count() > 0)
         throw ENotAvailable(u"Symbols: symbols are not available yet");
-    ReadElements<TVGRLayer>(*this, version, json.GetArray(u"Layers"));
+    ReadElements<TVGRLayer>(*this, version, json, u"Layers");
     NeedFirstLayer();
     if (HasDrawScale())
-        ReadElements<TVGRDimStyle>(*this, version, json.GetArray(u"DimStyles"));
+        ReadElements<TVGRDimStyle>(*this, version, json, u"DimStyles");
     NeedFirstDimStyle();
-    ReadElements<TVGRCounter>(*this, version, json.GetArray(u"Counters"));
+    ReadElements<TVGRCounter>(*this, version, json, u"Counters");
 }
 
 } // namespace vagrel

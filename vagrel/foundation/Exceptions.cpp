@@ -6,8 +6,8 @@
 
 namespace vagrel {
 
-EVagrel::EVagrel(std::u16string_view message) : std::runtime_error(ToUtf8(message)) {}
+EVagrel::EVagrel(std::u16string_view message) : EVagrel(ToUtf8(message)) {}
 
-std::u16string EVagrel::Message() const { return FromUtf8(what()); }
+std::u16string EVagrel::Message() const { return FromUtf8(std::runtime_error::what()); }
 
 } // namespace vagrel

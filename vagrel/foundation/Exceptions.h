@@ -8,15 +8,33 @@
 
 namespace vagrel {
 
-/// Base of all exceptions of the library. `what()` is UTF-8.
+/// Base of all exceptions of the library. `what()` is UTF-8: the places that the exception came through, then the
+/// message.
 class EVagrel : public std::runtime_error {
 public:
     explicit EVagrel(std::u16string_view message);
-    explicit EVagrel(const std::string& message) : std::runtime_error(message) {}
+    explicit EVagrel(const std::string& message) : std::runtime_error(message), fWhat(message) {}
 
-    /// The message in UTF-16.
+    /// The message without the places, in UTF-16.
     std::u16string Message() const;
+    const char* what() const noexcept override { return fWhat.c_str(); }
+    /// Puts a place in front, as "Items[3]".
+    void AddPlace(const std::string& place) { fWhat = place + ": " + fWhat; }
+
+private:
+    std::string fWhat;
 };
+
+/// Runs an action; an exception of the library that leaves it carries the place.
+template <class Action>
+decltype(auto) AtPlace(const std::string& place, Action&& action) {
+    try {
+        return action();
+    } catch (EVagrel& error) {
+        error.AddPlace(place);
+        throw;
+    }
+}
 
 /// Misuse of an operation in the state that the object is in.
 class EInvalidOperation : public EVagrel {

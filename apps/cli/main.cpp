@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+// vagrel: documents from the command line. Exit code 0 done, 1 bad input, 2 wrong use.
+#include "Commands.h"
+
+#include <vagrel/foundation/Enumerations.h>
+#include <vagrel/foundation/Exceptions.h>
+
+#include <CLI/CLI.hpp>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <iostream>
+
+namespace vagrel::cli {
+
+const TNames ModeNames{
+    {"labelling", emLabelling}, {"flowchart", emFlowChart}, {"drawing", emDrawing}, {"interactive", emInteractive}};
+const TNames UnitNames{{"mm", unMM}, {"inch", unINCH}, {"cm", unCM}, {"dm", unDM},
+                       {"m", unM},   {"ft", unFt},     {"yd", unYd}};
+
+void Print(std::string_view text) {
+    const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+    if (std::fflush(stdout) != 0 || !written)
+        throw EStreamError(std::string("cannot write standard output: ") + std::strerror(errno));
+}
+
+namespace {
+
+int Fail(int code, std::string_view message) {
+    // One line, whatever the message holds.
+    std::string line(message.substr(0, message.find_last_not_of("\r\n") + 1));
+    for (char& c : line)
+        if (c == '\n' || c == '\r')
+            c = ' ';
+    std::cerr << "vagrel: " << line << '\n';
+    return code;
+}
+
+int Run(int argc, char** argv) {
+    CLI::App app("Labels, flow diagrams and technical drawings from the command line.", "vagrel");
+    app.require_subcommand(1);
+    app.set_version_flag("--version", "vagrel 0.1.0");
+    app.footer("Examples:\n"
+               "  vagrel new --mode drawing --units m --scale 50 --size 420x297 -o plan.json\n"
+               "  vagrel render plan.json -o plan.svg\n"
+               "  vagrel info plan.json --json\n"
+               "\n"
+               "Exit code: 0 done, 1 bad input, 2 wrong use.");
+    AddNew(app);
+    AddRender(app);
+    AddInfo(app);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& success) {
+        return app.exit(success);
+    } catch (const CLI::ParseError& error) {
+        return Fail(2, std::string(error.what()) + " (see vagrel --help)");
+    }
+    return 0;
+}
+
+} // namespace
+
+} // namespace vagrel::cli
+
+int main(int argc, char** argv) {
+    try {
+        return vagrel::cli::Run(argc, argv);
+    } catch (const std::exception& error) {
+        return vagrel::cli::Fail(1, error.what());
+    }
+}

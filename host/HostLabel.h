@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+// The reference host's document.
+#pragma once
+
+#include <vagrel/document/TVGRBaseLabel.h>
+
+namespace vagrel {
+
+class TJsonObject;
+
+/// A document without a window: it makes items, reads and writes files. What needs a printer, a clipboard or a painter
+/// throws ENotAvailable.
+class HostLabel : public TVGRBaseLabel {
+public:
+    explicit HostLabel(TComponent* owner = nullptr);
+    ~HostLabel() override;
+
+    /// Reads a JSON document. Throws EVagrel with the file and the place in it; the document that stood before is
+    /// untouched then, or empty when it was empty.
+    void LoadFromFile(std::u16string_view filename) override;
+    /// Writes the document whole or not at all. Throws EStreamError.
+    void SaveToFile(std::u16string_view filename, TKSLExt format) override;
+    /// Reads a whole document from its tree, inside the reading bracket.
+    void ReadDocument(TJsonObject& root);
+
+    TVGRBaseItem& CreateText(std::int64_t x, std::int64_t y) override;
+    TVGRBaseItem& CreatePara(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) override;
+    TVGRBaseItem& CreateRichText(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) override;
+    TVGRBaseItem& CreatePoint(std::int64_t x, std::int64_t y) override;
+    TVGRBaseItem& CreateLine(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2) override;
+    TVGRBaseItem& CreateArrowLine(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2) override;
+    TVGRBaseItem& CreatePolyLine(const TKSLPtoA& points) override;
+    TVGRBaseItem& CreateBezier(const TKSLPtoA& points) override;
+    TVGRBaseItem& CreateArc(TKSLPto first, TKSLPto second, TKSLPto third) override;
+    TVGRBaseItem& CreateRectangle(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) override;
+    TVGRBaseItem& CreatePackage(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) override;
+    TVGRBaseItem& CreatePolygon(const TKSLPtoA& points) override;
+    TVGRBaseItem& CreateCircle(TKSLPto center, std::int64_t radius) override;
+    TVGRBaseItem& CreateCircle2P(TKSLPto first, TKSLPto second) override;
+    TVGRBaseItem& CreateCircle3P(TKSLPto first, TKSLPto second, TKSLPto third) override;
+    TVGRBaseItem& CreateSector(TKSLPto center, std::int64_t radius, float start, float end) override;
+    TVGRBaseItem& CreateSector2P(TKSLPto first, TKSLPto second, float start, float end) override;
+    TVGRBaseItem& CreateSector3P(TKSLPto first, TKSLPto second, TKSLPto third, float start, float end) override;
+    TVGRBaseItem& CreateLevel(TKSLPto center, std::int64_t radius) override;
+    TVGRBaseItem& CreateEllipse(TKSLPto center, std::int64_t radiusX, std::int64_t radiusY) override;
+    TVGRBaseItem& CreateBarcode(std::int64_t x, std::int64_t y, std::u16string_view text, TKSLBarType type) override;
+    TVGRBaseItem& CreatePDF417(std::int64_t x, std::int64_t y, std::u16string_view text) override;
+    TVGRBaseItem& CreateDataMatrix(std::int64_t x, std::int64_t y, std::u16string_view text) override;
+    TVGRBaseItem& CreateQRCode(std::int64_t x, std::int64_t y, std::u16string_view text) override;
+    TVGRBaseItem& CreateImage(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height, bool keepAspect,
+                              std::u16string_view source) override;
+    TVGRBaseItem& CreateFlow(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height,
+                             TKSLFlowType type) override;
+    TVGRBaseItem& CreateLink(const TKSLink& from, const TKSLink& to, TKSLinkType type) override;
+    TVGRBaseItem& CreatePolyLink(const TKSLink& from, const TKSLink& to, TKSLinkType type,
+                                 const TKSLPtoA& points) override;
+    TVGRBaseItem& CreateTable(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) override;
+    TVGRBaseItem& CreatePolyText(std::int64_t x, std::int64_t y) override;
+    TVGRBaseItem& CreateRank(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) override;
+    TVGRBaseItem& CreateNutriScore(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) override;
+    TVGRBaseItem& CreateSymbol(std::int64_t x, std::int64_t y) override;
+    TVGRBaseItem& CreateDim(TKSLPto first, TKSLPto second, TKSLPto position) override;
+    TVGRBaseItem& CreateDimAng(const TKSLRefLine& first, const TKSLRefLine& second, TKSLPto side) override;
+    TVGRBaseItem& CreateDimRad1(TKSLPto center, std::int64_t radius, double angle) override;
+    TVGRBaseItem& CreateDimRad2(TKSLPto center, std::int64_t radius, double angle) override;
+    TVGRBaseItem& CreateDimDia1(TKSLPto center, std::int64_t radius, double angle) override;
+    TVGRBaseItem& CreateDimDia2(TKSLPto center, std::int64_t radius, double angle) override;
+    TVGRBaseItem& CreateElementFromStream(std::string_view snapshot) override;
+    void PasteSelection() override;
+    void Print() override;
+    void ExportDoc(TKSLExport type, std::u16string_view filename, int page, float scale, int quality, bool checkData,
+                   bool transparent, bool fit) override;
+
+private:
+    /// An item on the active layer at the given points.
+    TVGRBaseItem& Make(TKSLItemType type, const TKSLPtoA& points = {});
+};
+
+} // namespace vagrel

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+// The factories of the reference host: each one places an item of the registry by its points. A type that the registry
+// lacks throws there.
+#include <host/HostLabel.h>
+
+#include <host/ItemRegistry.h>
+#include <vagrel/document/TVGRBaseItem.h>
+#include <vagrel/foundation/Exceptions.h>
+#include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/TDraw2D.h>
+#include <vagrel/items/figures/TVGRBaseSector.h>
+
+namespace vagrel {
+
+namespace {
+
+// The corners of the box around a centre.
+TKSLPtoA Around(TKSLPto center, std::int64_t radiusX, std::int64_t radiusY) {
+    return {{SubSat(center.bX, radiusX), SubSat(center.bY, radiusY)},
+            {AddSat(center.bX, radiusX), AddSat(center.bY, radiusY)}};
+}
+
+TKSLPtoA Box(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) {
+    return {{x, y}, {AddSat(x, width), AddSat(y, height)}};
+}
+
+struct TCircle {
+    TKSLPto center;
+    std::int64_t radius = 0;
+};
+
+TCircle Through(TKSLPto a, TKSLPto b) {
+    TCircle circle;
+    TDraw2D::CircleTwoPoints(a.bX, a.bY, b.bX, b.bY, circle.center.bX, circle.center.bY, circle.radius);
+    return circle;
+}
+
+TCircle Through(TKSLPto a, TKSLPto b, TKSLPto c) {
+    TCircle circle;
+    if (!TDraw2D::CircleThreePoints(a.bX, a.bY, b.bX, b.bY, c.bX, c.bY, circle.center.bX, circle.center.bY,
+                                    circle.radius))
+        throw EInvalidOperation(u"No circle goes through three points of a line");
+    return circle;
+}
+
+} // namespace
+
+TVGRBaseItem& HostLabel::Make(TKSLItemType type, const TKSLPtoA& points) {
+    TVGRBaseItem& item = MakeItem(*this, ActiveLayer(), type, int(points.size()));
+    item.AssignPoints(points);
+    return item;
+}
+
+TVGRBaseItem& HostLabel::CreatePoint(std::int64_t x, std::int64_t y) { return Make(itPoint, {{x, y}}); }
+
+TVGRBaseItem& HostLabel::CreateLine(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2) {
+    return Make(itLine, {{x1, y1}, {x2, y2}});
+}
+
+TVGRBaseItem& HostLabel::CreatePolyLine(const TKSLPtoA& points) { return Make(itPolyLine, points); }
+TVGRBaseItem& HostLabel::CreateBezier(const TKSLPtoA& points) { return Make(itBezier, points); }
+TVGRBaseItem& HostLabel::CreatePolygon(const TKSLPtoA& points) { return Make(itPolygon, points); }
+
+TVGRBaseItem& HostLabel::CreateRectangle(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) {
+    return Make(itRectangle, Box(x, y, width, height));
+}
+
+TVGRBaseItem& HostLabel::CreateCircle(TKSLPto center, std::int64_t radius) {
+    return Make(itCircle, Around(center, radius, radius));
+}
+
+TVGRBaseItem& HostLabel::CreateCircle2P(TKSLPto first, TKSLPto second) {
+    const TCircle circle = Through(first, second);
+    return CreateCircle(circle.center, circle.radius);
+}
+
+TVGRBaseItem& HostLabel::CreateCircle3P(TKSLPto first, TKSLPto second, TKSLPto third) {
+    const TCircle circle = Through(first, second, third);
+    return CreateCircle(circle.center, circle.radius);
+}
+
+TVGRBaseItem& HostLabel::CreateSector(TKSLPto center, std::int64_t radius, float start, float end) {
+    auto& sector = dynamic_cast<TVGRBaseSector&>(Make(itSector, Around(center, radius, radius)));
+    sector.SetStartAngle(start);
+    sector.SetSweepAngle(end - start);
+    return sector;
+}
+
+TVGRBaseItem& HostLabel::CreateSector2P(TKSLPto first, TKSLPto second, float start, float end) {
+    const TCircle circle = Through(first, second);
+    return CreateSector(circle.center, circle.radius, start, end);
+}
+
+TVGRBaseItem& HostLabel::CreateSector3P(TKSLPto first, TKSLPto second, TKSLPto third, float start, float end) {
+    const TCircle circle = Through(first, second, third);
+    return CreateSector(circle.center, circle.radius, start, end);
+}
+
+TVGRBaseItem& HostLabel::CreateEllipse(TKSLPto center, std::int64_t radiusX, std::int64_t radiusY) {
+    return Make(itEllipse, Around(center, radiusX, radiusY));
+}
+
+// Families that the registry does not have yet.
+
+TVGRBaseItem& HostLabel::CreateText(std::int64_t x, std::int64_t y) { return Make(itText, {{x, y}}); }
+TVGRBaseItem& HostLabel::CreatePara(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) {
+    return Make(itPara, Box(x, y, width, height));
+}
+TVGRBaseItem& HostLabel::CreateRichText(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) {
+    return Make(itRichText, Box(x, y, width, height));
+}
+TVGRBaseItem& HostLabel::CreateArrowLine(std::int64_t, std::int64_t, std::int64_t, std::int64_t) {
+    return Make(itArrowLine);
+}
+TVGRBaseItem& HostLabel::CreateArc(TKSLPto, TKSLPto, TKSLPto) { return Make(itArc); }
+TVGRBaseItem& HostLabel::CreatePackage(std::int64_t, std::int64_t, std::int64_t, std::int64_t) {
+    return Make(itPackage);
+}
+TVGRBaseItem& HostLabel::CreateLevel(TKSLPto, std::int64_t) { return Make(itLevel); }
+TVGRBaseItem& HostLabel::CreateBarcode(std::int64_t, std::int64_t, std::u16string_view, TKSLBarType) {
+    return Make(itBarcode);
+}
+TVGRBaseItem& HostLabel::CreatePDF417(std::int64_t, std::int64_t, std::u16string_view) { return Make(itPDF417); }
+TVGRBaseItem& HostLabel::CreateDataMatrix(std::int64_t, std::int64_t, std::u16string_view) {
+    return Make(itDataMatrix);
+}
+TVGRBaseItem& HostLabel::CreateQRCode(std::int64_t, std::int64_t, std::u16string_view) { return Make(itQRCode); }
+TVGRBaseItem& HostLabel::CreateImage(std::int64_t, std::int64_t, std::int64_t, std::int64_t, bool,
+                                     std::u16string_view) {
+    return Make(itImage);
+}
+TVGRBaseItem& HostLabel::CreateFlow(std::int64_t, std::int64_t, std::int64_t, std::int64_t, TKSLFlowType) {
+    return Make(itFlow);
+}
+TVGRBaseItem& HostLabel::CreateLink(const TKSLink&, const TKSLink&, TKSLinkType) { return Make(itLink); }
+TVGRBaseItem& HostLabel::CreatePolyLink(const TKSLink&, const TKSLink&, TKSLinkType, const TKSLPtoA&) {
+    return Make(itLink);
+}
+TVGRBaseItem& HostLabel::CreateTable(std::int64_t, std::int64_t, std::int64_t, std::int64_t) { return Make(itTable); }
+TVGRBaseItem& HostLabel::CreatePolyText(std::int64_t, std::int64_t) { return Make(itPolyText); }
+TVGRBaseItem& HostLabel::CreateRank(std::int64_t, std::int64_t, std::int64_t, std::int64_t) { return Make(itRank); }
+TVGRBaseItem& HostLabel::CreateNutriScore(std::int64_t, std::int64_t, std::int64_t, std::int64_t) {
+    return Make(itNutriScore);
+}
+TVGRBaseItem& HostLabel::CreateSymbol(std::int64_t, std::int64_t) { return Make(itSymbol); }
+TVGRBaseItem& HostLabel::CreateDim(TKSLPto, TKSLPto, TKSLPto) { return Make(itDim); }
+TVGRBaseItem& HostLabel::CreateDimAng(const TKSLRefLine&, const TKSLRefLine&, TKSLPto) { return Make(itDim); }
+TVGRBaseItem& HostLabel::CreateDimRad1(TKSLPto, std::int64_t, double) { return Make(itDim); }
+TVGRBaseItem& HostLabel::CreateDimRad2(TKSLPto, std::int64_t, double) { return Make(itDim); }
+TVGRBaseItem& HostLabel::CreateDimDia1(TKSLPto, std::int64_t, double) { return Make(itDim); }
+TVGRBaseItem& HostLabel::CreateDimDia2(TKSLPto, std::int64_t, double) { return Make(itDim); }
+
+} // namespace vagrel
