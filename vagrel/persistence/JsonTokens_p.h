@@ -44,6 +44,8 @@ inline std::uint64_t BytesEqual(std::uint64_t word, std::uint64_t byte) {
 template <class Unit>
 inline const Unit* BehindBlanks(const Unit* at, const Unit* end) {
     if constexpr (sizeof(Unit) == 1 && std::endian::native == std::endian::little) {
+        if (end - at >= 2 && *at == ' ' && static_cast<unsigned char>(at[1]) > ' ')
+            return at + 1;
         while (end - at >= 8 && static_cast<unsigned char>(*at) <= ' ') {
             std::uint64_t word;
             std::memcpy(&word, at, 8);

@@ -27,7 +27,8 @@ void Move(T* to, const T* from, std::size_t count) {
 } // namespace
 
 TJsonBaseObject::~TJsonBaseObject() {
-    Clear();
+    if (fCount > 0)
+        Clear();
     if (!fInOneBlock)
         ::operator delete(fItems);
 }
