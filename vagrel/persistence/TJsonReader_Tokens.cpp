@@ -151,7 +151,7 @@ TJsonDataValue TJsonReader<Unit>::ReadLongInteger(const Unit* begin) {
 template <class Unit>
 TJsonDataValue TJsonReader<Unit>::ReadFloat(const Unit* begin, std::uint64_t mantissa, bool isExact,
                                             std::int64_t exponent) {
-    if (isExact && mantissa <= std::uint64_t(1) << 53 && exponent >= -22 && exponent <= 22) {
+    if (isExact && mantissa <= std::uint64_t(1) << 53 && exponent >= -22 && exponent <= 22) [[likely]] {
         const double whole = *begin == '-' ? -double(mantissa) : double(mantissa);
         return exponent < 0 ? whole / ExactPower[-exponent] : whole * ExactPower[exponent];
     }
