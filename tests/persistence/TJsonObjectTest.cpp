@@ -72,7 +72,7 @@ TEST_F(TJsonTest, Converts) {
         {u"\" 12 \"", 12, 12, 12, 12, false, u" 12 "},
     };
     for (const TRow& row : rows) {
-        object.Parse(u"{\"v\":" + std::u16string(row.json) + u"}");
+        object.Parse(std::u16string(u"{\"v\":").append(row.json).append(u"}"));
         SCOPED_TRACE(ToUtf8(row.json));
         EXPECT_EQ(object.GetInt(u"v"), row.asInt);
         EXPECT_EQ(object.GetLong(u"v"), row.asLong);
@@ -125,7 +125,7 @@ TEST_F(TJsonTest, KeepsOrderThroughChanges) {
 
 TEST_F(TJsonTest, FindsNamesOfLargeObjects) {
     for (int i = 0; i < 200; ++i)
-        object.SetInt(u"n" + IntToStr(i), i);
+        object.SetInt(std::u16string(u"n").append(IntToStr(i)), i);
     EXPECT_EQ(object.IndexOf(u"n150"), 150);
     object.Remove(u"n100");
     object.SetInt(u"n100", -1);
@@ -277,7 +277,7 @@ TEST_F(TJsonTest, WritesEveryText) {
 }
 
 TEST_F(TJsonTest, ReadsAndWritesEncodings) {
-    object.SetString(u"é", std::u16string(50000, u'€') + u"😀");
+    object.SetString(u"é", std::u16string(50000, u'€').append(u"😀"));
     for (const TJsonEncoding encoding : {jeUtf8, jeUtf8Bom, jeUtf16LE, jeUtf16BE}) {
         std::stringstream stream;
         object.SaveToStream(stream, false, encoding);
