@@ -122,7 +122,7 @@ TEST(TJsonReader, RoundsEveryFloatRight) {
                              "4.9406564584124654e-324", "2.2250738585072011e-308", "1.7976931348623157e308",
                              "0.000000000000000000000000000000000000012345678901234567890", "179769313486231570e291"}) {
         TJsonArray array;
-        array.ParseUtf8("[" + std::string(text) + "]");
+        array.ParseUtf8(std::string("[").append(text).append("]"));
         EXPECT_EQ(array.GetFloat(0), std::strtod(text, nullptr)) << text;
     }
 }
@@ -146,7 +146,7 @@ TEST(TJsonReader, LimitsNesting) {
 TEST(TJsonReader, ManyKeysTakeTheirPlaces) {
     std::string text = "{";
     for (int i = 0; i < 100000; ++i)
-        text += "k" + std::to_string(i) + ":" + std::to_string(i) + ",";
+        text.append("k").append(std::to_string(i)).append(":").append(std::to_string(i)).append(",");
     text += "k99999:-1,k0:-2}";
     TJsonObject object;
     object.ParseUtf8(text);

@@ -111,6 +111,23 @@ char* PutGeneral(char* at, double value) {
     return std::copy(digits + exponent + 1, digits + count, at);
 }
 
+// Lengths have three decimals at most. Where `thousandths` / 1000 is the number itself, its 15 digits are theirs.
+std::optional<std::uint64_t> Thousandths(double value) {
+    if (value >= 1e11)
+        return std::nullopt;
+    const auto thousandths = std::uint64_t(value * 1000 + 0.5);
+    return double(thousandths) / 1000 == value ? std::optional(thousandths) : std::nullopt;
+}
+
+char* PutThousandths(char* at, char* end, std::uint64_t value) {
+    at = std::to_chars(at, end, value / 1000).ptr;
+    auto decimals = unsigned(value % 1000);
+    *at++ = '.';
+    for (unsigned unit = 100; decimals != 0; decimals %= unit, unit /= 10)
+        *at++ = char('0' + decimals / unit);
+    return at;
+}
+
 // The general form of any number, in a buffer of its own.
 struct TGeneral {
     explicit TGeneral(double value) {
@@ -122,6 +139,8 @@ struct TGeneral {
             end = std::copy_n(std::isnan(value) ? "NAN" : "INF", 3, end);
         else if (const auto whole = std::uint64_t(size < 1e15 ? size : 0.0); double(whole) == size)
             end = std::to_chars(end, text + sizeof text, whole).ptr;
+        else if (const auto thousandths = Thousandths(size))
+            end = PutThousandths(end, text + sizeof text, *thousandths);
         else
             end = PutGeneral(end, size);
         length = std::size_t(end - text);

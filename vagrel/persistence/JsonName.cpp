@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Shared names and their hash index.
 #include "JsonName_p.h"
+#include "JsonTokens_p.h"
 
 #include <vagrel/persistence/JsonExceptions.h>
 
@@ -13,7 +14,9 @@ TJsonName* TJsonName::Create(std::u16string_view text, std::uint32_t hash) {
     if (text.size() > 0x7FFFFFFF)
         throw EJsonException("Name too long");
     void* block = ::operator new(sizeof(TJsonName) + text.size() * sizeof(char16_t));
-    auto* name = new (block) TJsonName(hash, std::uint32_t(text.size()));
+    const bool isPlain =
+        std::all_of(text.begin(), text.end(), [](char16_t unit) { return unit < 0x80 && vagrel::IsPlain(char(unit)); });
+    auto* name = new (block) TJsonName(hash, std::uint32_t(text.size()), isPlain);
     if (!text.empty())
         std::memcpy(static_cast<void*>(name + 1), text.data(), text.size() * sizeof(char16_t));
     return name;

@@ -19,6 +19,8 @@ public:
 
     std::u16string_view Text() const { return {reinterpret_cast<const char16_t*>(this + 1), fLength}; }
     std::uint32_t Hash() const { return fHash; }
+    /// True when the text is ASCII that JSON writes as it is.
+    bool IsPlain() const { return fIsPlain; }
 
     TJsonName* AddRef() {
         fRefs.fetch_add(1, std::memory_order_relaxed);
@@ -35,11 +37,13 @@ public:
     }
 
 private:
-    TJsonName(std::uint32_t hash, std::uint32_t length) : fRefs(1), fHash(hash), fLength(length) {}
+    TJsonName(std::uint32_t hash, std::uint32_t length, bool isPlain)
+        : fRefs(1), fHash(hash), fLength(length), fIsPlain(isPlain) {}
 
     std::atomic<std::uint32_t> fRefs;
     std::uint32_t fHash;
     std::uint32_t fLength;
+    bool fIsPlain;
 };
 
 /// Positions in an array of names, found by text.

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 namespace vagrel {
@@ -31,9 +33,30 @@ bool IsPlain(Unit unit) {
     return unit >= 0x20 && unit != '"' && unit != '\\';
 }
 
-/// The first unit from `at` on that is no blank.
+/// 0x80 in every byte of `word` that equals `byte`.
+inline std::uint64_t BytesEqual(std::uint64_t word, std::uint64_t byte) {
+    constexpr std::uint64_t ones = 0x0101010101010101u, low = ones * 0x7F;
+    const std::uint64_t difference = word ^ (byte * ones);
+    return ~(((difference & low) + low) | difference | low);
+}
+
+/// The first unit from `at` on that is no blank. Indentation is passed eight bytes at a time.
 template <class Unit>
 inline const Unit* BehindBlanks(const Unit* at, const Unit* end) {
+    if constexpr (sizeof(Unit) == 1 && std::endian::native == std::endian::little) {
+        if (end - at >= 2 && *at == ' ' && static_cast<unsigned char>(at[1]) > ' ')
+            return at + 1;
+        while (end - at >= 8 && static_cast<unsigned char>(*at) <= ' ') {
+            std::uint64_t word;
+            std::memcpy(&word, at, 8);
+            const std::uint64_t blanks =
+                BytesEqual(word, ' ') | BytesEqual(word, '\t') | BytesEqual(word, '\n') | BytesEqual(word, '\r');
+            const int count = std::countr_one(blanks | 0x7F7F7F7F7F7F7F7Fu) / 8;
+            at += count;
+            if (count < 8)
+                return at;
+        }
+    }
     while (at != end && IsBlank(std::make_unsigned_t<Unit>(*at)))
         ++at;
     return at;

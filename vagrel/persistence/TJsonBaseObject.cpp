@@ -27,7 +27,8 @@ void Move(T* to, const T* from, std::size_t count) {
 } // namespace
 
 TJsonBaseObject::~TJsonBaseObject() {
-    Clear();
+    if (fCount > 0)
+        Clear();
     if (!fInOneBlock)
         ::operator delete(fItems);
 }
@@ -146,10 +147,12 @@ std::unique_ptr<TJsonBaseObject> TJsonBaseObject::New(bool isObject, std::size_t
 std::unique_ptr<TJsonBaseObject> TJsonTreeBuilder::Build(bool isObject, TJsonDataValue* values, TJsonName* const* names,
                                                          std::size_t count) {
     auto container = TJsonBaseObject::New(isObject, count);
+    TJsonDataValue* items = container->fItems;
     for (std::size_t i = 0; i < count; ++i)
-        new (container->fItems + i) TJsonDataValue(std::move(values[i]));
+        new (items + i) TJsonDataValue(std::move(values[i]));
+    TJsonName** ownNames = container->Names();
     for (std::size_t i = 0; isObject && i < count; ++i)
-        container->Names()[i] = names[i]->AddRefUnshared();
+        ownNames[i] = names[i]->AddRefUnshared();
     container->fCount = std::uint32_t(count);
     return container;
 }

@@ -120,10 +120,8 @@ void TJsonOutputWriter<Unit>::Write(const TJsonBaseObject& root) {
         if (index > 0)
             WriteOne(',');
         Break(open.size());
-        if (container.IsObject()) {
-            WriteText(container.NameAt(index)->Text());
-            WriteAscii(fCompact ? ":" : ": ");
-        }
+        if (container.IsObject())
+            WriteName(*container.NameAt(index));
         const TJsonDataValue& value = container.ItemAt(index);
         if (const TJsonBaseObject* child = value.Container())
             enter(*child);
@@ -181,6 +179,24 @@ void TJsonOutputWriter<Unit>::WriteScalar(const TJsonDataValue& value) {
     default:
         return WriteAscii("null");
     }
+}
+
+template <class Unit>
+void TJsonOutputWriter<Unit>::WriteName(const TJsonName& name) {
+    const std::u16string_view text = name.Text();
+    if (!name.IsPlain()) {
+        WriteText(text);
+        WriteAscii(fCompact ? ":" : ": ");
+        return;
+    }
+    Unit* at = Room(text.size() + 4);
+    *at++ = '"';
+    at = std::copy(text.begin(), text.end(), at);
+    *at++ = '"';
+    *at++ = ':';
+    if (!fCompact)
+        *at++ = ' ';
+    fAt = at;
 }
 
 template <class Unit>

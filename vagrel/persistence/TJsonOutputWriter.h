@@ -26,6 +26,7 @@ public:
 
 private:
     void WriteScalar(const TJsonDataValue& value);
+    void WriteName(const TJsonName& name);
     void WriteText(std::u16string_view text);
     Unit* WriteUnit(Unit* at, const char16_t*& from, const char16_t* end);
     void WriteAscii(std::string_view ascii);

@@ -13,9 +13,11 @@ namespace vagrel {
 
 template <class Unit>
 struct TJsonReader<Unit>::TFrame {
-    std::size_t start;     // its first value in fValues
-    std::size_t firstName; // its first name in fNames
-    std::size_t target;    // where the value that is read now goes
+    std::size_t start;         // its first value in fValues
+    std::size_t firstName;     // its first name in fNames
+    std::size_t target;        // where the value that is read now goes
+    std::uint32_t lastName;    // known index of its latest name, at first of the name that it stands under
+    std::uint32_t highestName; // the highest so far
     bool isObject;
     std::unique_ptr<TJsonNameIndex> index; // of the names, once they are many
 };
@@ -24,7 +26,9 @@ template <class Unit>
 TJsonReader<Unit>::TJsonReader(std::basic_string_view<Unit> text, const TJsonReaderProgressRec* progress)
     : fBegin(text.data()), fAt(fBegin), fEnd(fBegin + text.size()),
       fProgress(progress && progress->Progress ? progress : nullptr), fNextReport(fProgress ? fBegin : fEnd),
-      fMaxDepth(TJsonSerializationConfig::Instance().MaxDepth), fKnownIndex(std::make_unique<TJsonNameIndex>()) {}
+      fMaxDepth(TJsonSerializationConfig::Instance().MaxDepth), fKnownIndex(std::make_unique<TJsonNameIndex>()) {
+    Intern({});
+}
 
 template <class Unit>
 TJsonReader<Unit>::~TJsonReader() {
@@ -67,7 +71,8 @@ bool TJsonReader<Unit>::Open() {
     if (fFrames.size() >= fMaxDepth)
         Fail("Nesting is deeper than " + std::to_string(fMaxDepth) + " levels", fAt);
     const bool isObject = *fAt++ == '{';
-    fFrames.push_back({fValues.size(), fNames.size(), 0, isObject, nullptr});
+    const std::uint32_t above = fFrames.empty() ? 0 : fFrames.back().lastName;
+    fFrames.push_back({fValues.size(), fNames.size(), 0, above, 0, isObject, nullptr});
     fAt = BehindBlanks(fAt, fEnd);
     if (fAt != fEnd && *fAt == (isObject ? '}' : ']')) {
         Close();
@@ -128,62 +133,76 @@ void TJsonReader<Unit>::NewSlot() {
 // Takes a key with its colon and finds the place of its value: that of the same key, or a new one.
 template <class Unit>
 void TJsonReader<Unit>::ReadKey() {
-    constexpr std::size_t linearLimit = 32;
-    TJsonName* name = ReadKnownName();
     TFrame& frame = fFrames.back();
-    TJsonName* const* names = fNames.data() + frame.firstName;
-    const std::size_t count = fNames.size() - frame.firstName;
-    std::size_t found = count;
-    if (count < linearLimit) {
-        found = std::size_t(std::find(names, names + count, name) - names);
-    } else {
-        if (!frame.index)
-            frame.index = std::make_unique<TJsonNameIndex>();
-        while (frame.index->Count() < count)
-            frame.index->Add(names);
-        if (const std::int32_t at = frame.index->Find(names, name->Text(), name->Hash()); at >= 0)
-            found = std::size_t(at);
-    }
-    if (found == count) {
+    const bool isFirst = fNames.size() == frame.firstName;
+    const TFollow& follow = fFollow[frame.lastName];
+    const std::uint32_t expected = isFirst ? follow.first : follow.next;
+    bool isPlain = false;
+    const std::uint32_t known = ReadKnownName(expected, isPlain);
+    if (known != expected && isPlain)
+        (isFirst ? fFollow[frame.lastName].first : fFollow[frame.lastName].next) = known;
+    frame.lastName = known;
+    TJsonName* name = fKnownNames[known];
+    // Names are known in the order of their first coming, so one above all others is new to the object.
+    const std::size_t found = isFirst || known > frame.highestName ? fNames.size() : Position(frame, name);
+    frame.highestName = std::max(frame.highestName, known);
+    frame.target = frame.start + found - frame.firstName;
+    if (found == fNames.size()) {
         fNames.push_back(name);
         fValues.emplace_back();
     } else {
-        fValues[frame.start + found].Clear();
+        fValues[frame.target].Clear();
     }
-    frame.target = frame.start + found;
     fAt = BehindBlanks(fAt, fEnd);
     if (fAt == fEnd || *fAt != ':')
         FailExpected("\":\"");
     ++fAt;
 }
 
-// A name in quotes without escapes that came before is told by its place in fRecent and a comparison.
+// Where in fNames the object has the name; the end when it has not.
 template <class Unit>
-TJsonName* TJsonReader<Unit>::ReadKnownName() {
+std::size_t TJsonReader<Unit>::Position(TFrame& frame, TJsonName* name) {
+    constexpr std::size_t linearLimit = 32;
+    TJsonName* const* names = fNames.data() + frame.firstName;
+    const std::size_t count = fNames.size() - frame.firstName;
+    if (count < linearLimit)
+        return frame.firstName + std::size_t(std::find(names, names + count, name) - names);
+    if (!frame.index)
+        frame.index = std::make_unique<TJsonNameIndex>();
+    while (frame.index->Count() < count)
+        frame.index->Add(names);
+    const std::int32_t at = frame.index->Find(names, name->Text(), name->Hash());
+    return at < 0 ? fNames.size() : frame.firstName + std::size_t(at);
+}
+
+// Reads a name. Objects of one kind repeat their names in order, so a comparison with the expected one mostly does;
+// `isPlain` tells of another name whether it stands in the text as it is and may be expected so.
+template <class Unit>
+std::uint32_t TJsonReader<Unit>::ReadKnownName(std::uint32_t expected, bool& isPlain) {
     if (fAt == fEnd || *fAt != '"')
         return Intern(ReadName());
     const Unit* begin = fAt + 1;
+    const std::u16string_view text = fKnownNames[expected]->Text();
+    if (std::size_t(fEnd - begin) > text.size() && begin[text.size()] == '"' &&
+        std::equal(text.begin(), text.end(), begin)) {
+        fAt = begin + text.size() + 1;
+        return expected;
+    }
     const Unit* end = BehindPlain(begin, fEnd);
-    if (begin == end || end == fEnd || *end != '"')
-        return Intern(ReadName());
-    const std::size_t length = std::size_t(end - begin);
-    TJsonName*& recent = fRecent[(length * 64 + std::size_t(*begin) * 5 + std::size_t(end[-1])) % fRecent.size()];
-    if (recent && recent->Text().size() == length && std::equal(begin, end, recent->Text().data()))
-        fAt = end + 1;
-    else
-        recent = Intern(ReadName());
-    return recent;
+    isPlain = end != fEnd && *end == '"';
+    return Intern(ReadName());
 }
 
 template <class Unit>
-TJsonName* TJsonReader<Unit>::Intern(std::u16string_view text) {
+std::uint32_t TJsonReader<Unit>::Intern(std::u16string_view text) {
     const std::uint32_t hash = TJsonName::Hash(text);
     if (const std::int32_t known = fKnownIndex->Find(fKnownNames.data(), text, hash); known >= 0)
-        return fKnownNames[std::size_t(known)];
+        return std::uint32_t(known);
     fKnownNames.push_back(nullptr);
     fKnownNames.back() = TJsonName::Create(text, hash);
     fKnownIndex->Add(fKnownNames.data());
-    return fKnownNames.back();
+    fFollow.emplace_back();
+    return std::uint32_t(fKnownNames.size() - 1);
 }
 
 template class TJsonReader<char>;

@@ -2,7 +2,6 @@
 // The JSON parser. One grammar reads UTF-8 bytes and UTF-16 code units.
 #pragma once
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -43,6 +42,10 @@ public:
 
 private:
     struct TFrame;
+    // The known names that came last as the next one in the object and as the first one in the value.
+    struct TFollow {
+        std::uint32_t next = 0, first = 0;
+    };
 
     // Grammar
     bool Open();
@@ -62,8 +65,9 @@ private:
     void ReadEscape();
     void AppendRun(const Unit* begin, const Unit* end);
     bool TakeWord(const char* word);
-    TJsonName* ReadKnownName();
-    TJsonName* Intern(std::u16string_view name);
+    std::uint32_t ReadKnownName(std::uint32_t expected, bool& isPlain);
+    std::size_t Position(TFrame& frame, TJsonName* name);
+    std::uint32_t Intern(std::u16string_view name);
     // Faults and progress
     std::string Found() const;
     [[noreturn]] void Fail(const std::string& message, const Unit* at) const;
@@ -80,10 +84,10 @@ private:
     // Values and names of the open containers, one container behind the other.
     std::vector<TJsonDataValue> fValues;
     std::vector<TJsonName*> fNames;
-    // Every name of the text; fRecent finds most of them without their hash.
+    // Every name of the text, the empty one first, and what to expect behind each.
     std::vector<TJsonName*> fKnownNames;
+    std::vector<TFollow> fFollow;
     std::unique_ptr<TJsonNameIndex> fKnownIndex;
-    std::array<TJsonName*, 256> fRecent{};
     std::u16string fScratch;
     std::unique_ptr<TJsonBaseObject> fRoot;
 };

@@ -36,8 +36,11 @@ TJsonDataValue Integer(bool negative, std::uint64_t magnitude) {
 constexpr double ExactPower[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
                                  1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
-std::string Utf8Of(std::string_view text) { return ToUtf8(FromUtf8(text)); }
-std::string Utf8Of(std::u16string_view text) { return ToUtf8(text); }
+// The end of the ASCII that stands for itself, for messages that are the same in both readers.
+template <class Unit>
+const Unit* BehindPlainAscii(const Unit* at, const Unit* end) {
+    return std::find_if(at, BehindPlain(at, end), [](Unit unit) { return std::make_unsigned_t<Unit>(unit) >= 0x80; });
+}
 
 } // namespace
 
@@ -148,7 +151,7 @@ TJsonDataValue TJsonReader<Unit>::ReadLongInteger(const Unit* begin) {
 template <class Unit>
 TJsonDataValue TJsonReader<Unit>::ReadFloat(const Unit* begin, std::uint64_t mantissa, bool isExact,
                                             std::int64_t exponent) {
-    if (isExact && mantissa <= std::uint64_t(1) << 53 && exponent >= -22 && exponent <= 22) {
+    if (isExact && mantissa <= std::uint64_t(1) << 53 && exponent >= -22 && exponent <= 22) [[likely]] {
         const double whole = *begin == '-' ? -double(mantissa) : double(mantissa);
         return exponent < 0 ? whole / ExactPower[-exponent] : whole * ExactPower[exponent];
     }
@@ -222,8 +225,7 @@ void TJsonReader<Unit>::ReadEscape() {
             code = value < 0 ? -1 : code * 16 + value;
         }
         if (code < 0)
-            Fail("Invalid hex number \"" + Utf8Of(std::basic_string_view<Unit>(fAt, std::size_t(end - fAt))) + "\"",
-                 fAt);
+            Fail("Invalid hex number \"" + std::string(fAt, BehindPlainAscii(fAt, end)) + "\"", fAt);
         fScratch += char16_t(code);
         fAt = end;
         return;
