@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+// The document of tests.
+#include <tests/support/TestHost.h>
+
+#include <vagrel/document/TVGRMeasure.h>
+
+namespace vagrel::test {
+
+TestHost::TestHost(TKSLEditorMode mode, TKSLUnits units, std::int64_t scale) {
+    SetEditorMode(mode);
+    SetUnits(units);
+    GetMeasure().SetDrawScale(scale);
+}
+
+std::u16string JsonOf(const TVGRBaseLabel& label) { return label.GetJsonString(false); }
+
+} // namespace vagrel::test
