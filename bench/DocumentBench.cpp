@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+// A document of 100,000 mixed lines and figures: made, saved, loaded, exported. Figures, with the peak memory of the
+// process.
+#include <host/HostLabel.h>
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <random>
+
+#include <sys/resource.h>
+
+namespace vagrel {
+namespace {
+
+constexpr int Count = 100'000;
+constexpr const char* FileName = "/tmp/vagrel-bench-document.json";
+
+double PeakMegabytes() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return double(usage.ru_maxrss) / 1024;
+}
+
+void Fill(HostLabel& label, int count) {
+    std::mt19937 random(7);
+    auto place = [&] { return std::int64_t(random() % 400'000); };
+    const UpdateScope bracket(label);
+    for (int i = 0; i < count; ++i) {
+        const TKSLPto at{place(), place()};
+        switch (i % 8) {
+        case 0:
+        case 1:
+        case 2:
+            label.CreateLine(at.bX, at.bY, place(), place());
+            break;
+        case 3:
+            label.CreatePolyLine({at, {place(), place()}, {place(), place()}, {place(), place()}});
+            break;
+        case 4:
+            label.CreateRectangle(at.bX, at.bY, 5000, 3000);
+            break;
+        case 5:
+            label.CreateCircle(at, 2500);
+            break;
+        case 6:
+            label.CreatePolygon({at, {place(), place()}, {place(), place()}});
+            break;
+        default:
+            label.CreateBezier({at, {place(), place()}, {place(), place()}, {place(), place()}});
+        }
+    }
+}
+
+void Make(benchmark::State& state) {
+    for (auto _ : state) {
+        HostLabel label;
+        Fill(label, Count);
+        benchmark::DoNotOptimize(label.ItemsCount());
+    }
+    state.counters["peak MB"] = PeakMegabytes();
+}
+
+void Save(benchmark::State& state) {
+    HostLabel label;
+    Fill(label, Count);
+    for (auto _ : state)
+        label.SaveToFile(u"/tmp/vagrel-bench-document.json", lfJSON);
+    state.counters["peak MB"] = PeakMegabytes();
+}
+
+void Load(benchmark::State& state) {
+    for (auto _ : state) {
+        HostLabel label;
+        label.LoadFromFile(u"/tmp/vagrel-bench-document.json");
+        benchmark::DoNotOptimize(label.ItemsCount());
+    }
+    state.counters["peak MB"] = PeakMegabytes();
+    std::remove(FileName);
+}
+
+void ExportSvg(benchmark::State& state) {
+    HostLabel label;
+    Fill(label, Count);
+    std::size_t bytes = 0;
+    for (auto _ : state) {
+        const std::string svg = label.SVG(svCurrentUnit, 1, false);
+        bytes += svg.size();
+    }
+    state.SetBytesProcessed(std::int64_t(bytes));
+    state.counters["peak MB"] = PeakMegabytes();
+}
+
+BENCHMARK(Make)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(Save)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(Load)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(ExportSvg)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+} // namespace
+} // namespace vagrel
