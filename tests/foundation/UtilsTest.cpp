@@ -43,7 +43,8 @@ TEST(Utils, GridHasItsOwnRounding) {
     // clang-format off
     const std::array<std::int64_t, 5> rows[] = {
         {10, 5, 10, 15, 5}, {12, 5, 10, 15, 10}, {13, 5, 15, 15, 10}, {2, 4, 0, 4, 0}, {-13, 5, -10, 0, 0},
-        {7, 0, 7, 7, 7}, {Least, -1, Least, Least, Least}, {Most, 1, Most, Most, Most - 1}, {Least, 1, Least, 0, 0}, {Most, Most - 1, Most - 1, Most, Most - 1},
+        {7, 0, 7, 7, 7}, {Least, -1, Least, Least, Least}, {Most, 1, Most, Most, Most - 1}, {Least, 1, Least, 0, 0},
+        {Most, Most - 1, Most - 1, Most, Most - 1},
     };
     // clang-format on
     for (const auto& row : rows) {
