@@ -4,6 +4,7 @@
 
 #include <vagrel/foundation/Exceptions.h>
 
+#include <algorithm>
 #include <cstdint>
 
 namespace vagrel {

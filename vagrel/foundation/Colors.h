@@ -48,8 +48,8 @@ TAlphaColor ColorToAlphaColor(TColor color);
 /// Swaps red and blue and drops alpha.
 TColor AlphaColorToColor(TAlphaColor color);
 
-/// Keeps the 24 bits as they stand and puts `alpha` on top. A system colour is first resolved to one of eight fixed
-/// greys and basic colours.
+/// Keeps the 24 bits as they stand and puts `alpha` on top. A system colour is first resolved to black, white, red
+/// or one of four greys.
 TAlphaColor ColorToTAlphaColor(TColor color, std::uint8_t alpha);
 
 } // namespace vagrel

@@ -10,9 +10,8 @@
 namespace vagrel {
 
 /// `value` by a number pattern: "0" a digit that always shows, "#" one that shows when it is needed, "." the decimal
-/// point,
-/// "," groups of thousands, texts in single or double quotes as they are, up to three sections for positive, negative
-/// and zero numbers separated by ";", "E+0" or "E-0" an exponent. All other characters stand for themselves.
+/// point, "," groups of thousands, texts in single or double quotes as they are, up to three sections for positive,
+/// negative and zero numbers separated by ";", "E+0" or "E-0" an exponent. All other characters stand for themselves.
 ///
 /// Rounds the exact decimal value of `value`, and a tie goes away from zero: 0.125 with "0.00" is 0.13, while 2.675,
 /// whose exact value lies below the tie, is 2.67. Where all digits are zero no minus is written. An empty pattern gives

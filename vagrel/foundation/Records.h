@@ -6,6 +6,7 @@
 #include <vagrel/foundation/Enumerations.h>
 #include <vagrel/foundation/TKSLRect.h>
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -53,6 +54,8 @@ struct TKSLPto {
     friend bool operator==(TKSLPto, TKSLPto) = default;
 };
 using TKSLPtoA = std::vector<TKSLPto>;
+template <std::size_t Count>
+using TKSLPtoArr = std::array<TKSLPto, Count>;
 using TKSLPt64 = TKSLPto;
 
 /// A base pair that converts to millimetres on paper.

@@ -63,6 +63,8 @@ std::int64_t SubSat(std::int64_t a, std::int64_t b) {
     return __builtin_sub_overflow(a, b, &result) ? Limit(a < 0) : result;
 }
 
+double Difference(std::int64_t a, std::int64_t b) { return double(TInt128(a) - b); }
+
 std::int32_t ToInt32(std::int64_t value) {
     if (value < std::numeric_limits<std::int32_t>::min())
         return std::numeric_limits<std::int32_t>::min();

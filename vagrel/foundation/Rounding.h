@@ -40,6 +40,9 @@ std::int64_t AddSat(std::int64_t a, std::int64_t b);
 /// a − b, saturating at the limits of 64 bits.
 std::int64_t SubSat(std::int64_t a, std::int64_t b);
 
+/// a − b in double, rounded only once: no digits are lost where both are large and near.
+double Difference(std::int64_t a, std::int64_t b);
+
 /// The 32-bit value nearest to `value`.
 std::int32_t ToInt32(std::int64_t value);
 

@@ -15,7 +15,7 @@ TComponent::~TComponent() {
     // A notice may take further peers out of the list.
     while (!fPeers.empty()) {
         TComponent* peer = fPeers.back();
-        RemoveFreeNotification(*peer);
+        Forget(*peer);
         peer->Notification(this, opRemove);
     }
 }
@@ -27,7 +27,7 @@ void TComponent::FreeNotification(TComponent& other) {
     other.fPeers.push_back(this);
 }
 
-void TComponent::RemoveFreeNotification(TComponent& other) {
+void TComponent::Forget(TComponent& other) {
     std::erase(fPeers, &other);
     std::erase(other.fPeers, this);
 }

@@ -2,13 +2,14 @@
 // The little of a component model that documents need: a name, an owner, the loading state and word of removals.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace vagrel {
 
-enum TOperation { opInsert, opRemove };
+enum TOperation : std::int32_t { opInsert, opRemove };
 
 /// A named object that is told when another one that it knows goes away. Owners do not delete: C++ scopes do.
 class TComponent {
@@ -30,13 +31,14 @@ public:
 
     /// From now on each of the two is told when the other is destroyed.
     void FreeNotification(TComponent& other);
-    void RemoveFreeNotification(TComponent& other);
 
 protected:
     /// `component` is being destroyed (`opRemove`); only its address may be used.
     virtual void Notification(TComponent* component, TOperation operation);
 
 private:
+    void Forget(TComponent& other);
+
     TComponent* fOwner;
     std::u16string fName;
     bool fLoading = false;

@@ -16,12 +16,12 @@ TKSLPto64 TKSLPto64::Add(TKSLPto64 other) const { return {AddSat(X, other.X), Ad
 TKSLPto64 TKSLPto64::Subtract(TKSLPto64 other) const { return {SubSat(X, other.X), SubSat(Y, other.Y)}; }
 
 double TKSLPto64::Distance(TKSLPto64 other) const {
-    const double dx = double(X) - double(other.X), dy = double(Y) - double(other.Y);
+    const double dx = Difference(X, other.X), dy = Difference(Y, other.Y);
     return std::sqrt(dx * dx + dy * dy);
 }
 
 float TKSLPto64::Angle(TKSLPto64 other) const {
-    return float(std::atan2(double(Y) - double(other.Y), double(X) - double(other.X)));
+    return float(std::atan2(Difference(Y, other.Y), Difference(X, other.X)));
 }
 
 bool TKSLPto64::PointInCircle(TKSLPto64 point, TKSLPto64 center, std::int64_t radius) {

@@ -44,7 +44,10 @@ public:
     friend constexpr bool operator==(TKSLSet a, TKSLSet b) = default;
 
 private:
-    static constexpr std::uint32_t Bit(E value) { return std::uint32_t(1) << (std::uint32_t(value) & 31); }
+    // Files may hold integers that are no value of the enumeration: those are in no set.
+    static constexpr std::uint32_t Bit(E value) {
+        return std::uint32_t(value) < 32 ? std::uint32_t(1) << std::uint32_t(value) : 0;
+    }
 
     std::uint32_t fBits = 0;
 };

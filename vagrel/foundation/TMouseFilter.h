@@ -13,7 +13,7 @@ namespace vagrel {
 template <class Coord>
 class TMouseFilterOf {
 public:
-    std::int64_t MinTimeBetweenUpdates = 50; ///< milliseconds
+    std::int32_t MinTimeBetweenUpdates = 50; ///< milliseconds
     double MinDistanceBetweenUpdates = 5;    ///< pixels
     bool Enabled = false;
 

@@ -35,7 +35,7 @@ std::int64_t Distance(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::in
         return Magnitude(SubSat(y2, y1));
     if (y1 == y2)
         return Magnitude(SubSat(x2, x1));
-    return Round(std::hypot(double(x2) - double(x1), double(y2) - double(y1)));
+    return Round(std::hypot(Difference(x2, x1), Difference(y2, y1)));
 }
 
 float Distance(float x1, float y1, float x2, float y2) {
@@ -46,26 +46,21 @@ float Distance(float x1, float y1, float x2, float y2) {
     return float(Round(std::hypot(double(x2) - double(x1), double(y2) - double(y1))));
 }
 
-bool ValInRange(double value, double a, double b) { return value >= std::min(a, b) && value <= std::max(a, b); }
-
 bool SamePoint(float a, float b) { return std::fabs(double(a) - double(b)) < 0.0001; }
 
 std::int64_t AdjustGrid(std::int64_t value, std::int64_t step) {
-    if (step == 0)
+    if (step <= 0)
         return value;
     const std::int64_t quotient = value / step;
     return MulSat(value % step > step / 2 ? quotient + 1 : quotient, step);
 }
 
 std::int64_t AdjustGrid(std::int64_t value, std::int64_t step, bool forward) {
-    if (step == 0)
+    if (step <= 0)
         return value;
-    std::int64_t quotient = value / step;
-    if (forward)
-        ++quotient;
-    else if (value % step == 0)
-        --quotient;
-    return MulSat(std::max<std::int64_t>(quotient, 0), step);
+    const std::int64_t quotient = value / step;
+    const std::int64_t next = forward ? AddSat(quotient, 1) : value % step == 0 ? SubSat(quotient, 1) : quotient;
+    return MulSat(std::max<std::int64_t>(next, 0), step);
 }
 
 float DrawFromBaseX(std::int64_t base, const TVGRBaseDraw& draw) {
@@ -109,7 +104,7 @@ bool ValidInputKey(std::u16string_view text, char16_t key, int position) {
     if (key != u'-' || text.empty() || text[0] != u'@')
         return false;
     const std::size_t comma = text.find(u',');
-    const bool second = comma != std::u16string_view::npos && std::size_t(position) > comma;
+    const bool second = comma != std::u16string_view::npos && position > std::int64_t(comma);
     const std::size_t place = second ? comma + 1 : 1;
     return place >= text.size() || text[place] != u'-';
 }

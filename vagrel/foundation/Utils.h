@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace vagrel {
@@ -19,12 +20,15 @@ std::int64_t Distance(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::in
 float Distance(float x1, float y1, float x2, float y2);
 
 /// True when `value` lies between `a` and `b`, whichever is larger, both included.
-bool ValInRange(double value, double a, double b);
+template <class Number>
+constexpr bool ValInRange(Number value, std::type_identity_t<Number> a, std::type_identity_t<Number> b) {
+    return a <= b ? value >= a && value <= b : value >= b && value <= a;
+}
 
 /// True when the two differ by less than 0.0001.
 bool SamePoint(float a, float b);
 
-/// The multiple of `step` nearest to `value`; with a step of 0 the value itself.
+/// The multiple of `step` nearest to `value`; without a step above 0 the value itself.
 std::int64_t AdjustGrid(std::int64_t value, std::int64_t step);
 /// The next multiple of `step` forward, or the previous one backward. A value on the grid goes one full step; the
 /// quotient never falls below 0.
