@@ -22,6 +22,46 @@ TJsonName* TJsonName::Create(std::u16string_view text, std::uint32_t hash) {
     return name;
 }
 
+namespace {
+
+// The names that trees built by hand repeat: whoever writes a key writes it again for the next object.
+class TRecentNames {
+public:
+    TRecentNames() = default;
+    TRecentNames(const TRecentNames&) = delete;
+    TRecentNames& operator=(const TRecentNames&) = delete;
+    ~TRecentNames() {
+        for (TJsonName* name : fNames)
+            if (name)
+                name->Release();
+    }
+
+    TJsonName* Obtain(std::u16string_view text) {
+        const std::uint32_t hash = TJsonName::Hash(text);
+        TJsonName*& recent = fNames[hash % std::size(fNames)];
+        if (!recent || recent->Hash() != hash || recent->Text() != text) {
+            TJsonName* name = TJsonName::Create(text, hash);
+            if (recent)
+                recent->Release();
+            recent = name;
+        }
+        return recent->AddRef();
+    }
+
+private:
+    TJsonName* fNames[256] = {};
+};
+
+// Longer names are rarely keys that repeat.
+constexpr std::size_t LongestRecent = 64;
+
+} // namespace
+
+TJsonName* TJsonName::Obtain(std::u16string_view text) {
+    thread_local TRecentNames recent;
+    return text.size() <= LongestRecent ? recent.Obtain(text) : Create(text, Hash(text));
+}
+
 std::uint32_t TJsonName::Hash(std::u16string_view text) {
     std::uint64_t hash = 0x9E3779B97F4A7C15u ^ text.size();
     for (char16_t unit : text)

@@ -15,6 +15,8 @@ class TJsonName {
 public:
     /// A name with one reference.
     static TJsonName* Create(std::u16string_view text, std::uint32_t hash);
+    /// A reference to a name of this text, which an earlier call of this thread may have made.
+    static TJsonName* Obtain(std::u16string_view text);
     static std::uint32_t Hash(std::u16string_view text);
 
     std::u16string_view Text() const { return {reinterpret_cast<const char16_t*>(this + 1), fLength}; }

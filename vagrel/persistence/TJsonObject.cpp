@@ -61,7 +61,7 @@ TJsonDataValue& TJsonObject::Need(std::u16string_view name) {
 
 TJsonDataValue& TJsonObject::Append(std::u16string_view name) {
     Grow();
-    return InsertItem(Count(), nullptr, TJsonName::Create(name, TJsonName::Hash(name)));
+    return InsertItem(Count(), nullptr, TJsonName::Obtain(name));
 }
 
 std::u16string_view TJsonObject::GetName(std::int32_t index) const {
