@@ -21,6 +21,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <limits>
 
 namespace vagrel {
 
@@ -91,6 +92,8 @@ void TVGRBaseLabel::New() {
     Clear({cleAll}, true);
     fMeasure->Reset();
 }
+
+std::int32_t TVGRBaseLabel::NextID() { return fMaxID < std::numeric_limits<std::int32_t>::max() ? fMaxID++ : fMaxID; }
 
 void TVGRBaseLabel::RaiseMaxID(std::int32_t id) { fMaxID = std::max(fMaxID, id); }
 

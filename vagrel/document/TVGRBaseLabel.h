@@ -8,6 +8,7 @@
 
 #include <vagrel/document/Events.h>
 #include <vagrel/document/IKSObserver.h>
+#include <vagrel/document/TFinally.h>
 #include <vagrel/document/TKSSelectionValue.h>
 #include <vagrel/foundation/TComponent.h>
 
@@ -91,7 +92,8 @@ public:
 
     // Identifiers
 
-    std::int32_t NextID() { return fMaxID++; }
+    /// A new number for an item. They end at 2147483647, which is then given again.
+    std::int32_t NextID();
     /// The number that `NextID` will give rises to at least `id`.
     void RaiseMaxID(std::int32_t id);
     /// True when another item than `item` has this identifier, without regard to case.
@@ -425,16 +427,30 @@ private:
 /// An update bracket that closes with its scope, after an exception too.
 class UpdateScope {
 public:
-    explicit UpdateScope(TVGRBaseLabel& label, bool paintOnEnd = true) : fLabel(label) {
+    explicit UpdateScope(TVGRBaseLabel& label, bool paintOnEnd = true) : fClose(TClose{label}) {
         label.BeginUpdate(paintOnEnd);
     }
-    UpdateScope(const UpdateScope&) = delete;
-    UpdateScope& operator=(const UpdateScope&) = delete;
-    // Observers that are told at the end may throw.
-    ~UpdateScope() noexcept(false) { fLabel.EndUpdate(); }
 
 private:
-    TVGRBaseLabel& fLabel;
+    struct TClose {
+        TVGRBaseLabel& label;
+        void operator()() const { label.EndUpdate(); }
+    };
+    TFinally<TClose> fClose;
+};
+
+/// A reading bracket that closes with its scope, after an exception too.
+class ReadScope {
+public:
+    ReadScope(TVGRBaseLabel& label, bool paste, bool units) : fClose((label.BeginRead(paste), TClose{label, units})) {}
+
+private:
+    struct TClose {
+        TVGRBaseLabel& label;
+        bool units;
+        void operator()() const { label.EndRead(units); }
+    };
+    TFinally<TClose> fClose;
 };
 
 } // namespace vagrel
