@@ -34,8 +34,8 @@ TVGRBaseLabel::TVGRBaseLabel(TComponent* owner)
       fData(std::make_unique<TVGRData>(*this)), fMeasure(std::make_unique<TVGRMeasure>(*this)),
       fMapping(std::make_unique<TVGRMapping>(*this)), fBackSurf(std::make_unique<TVGRBackSurf>(*this, true)),
       fSettings(std::make_unique<TVGRSettings>(*this)) {
-    NeedFirstLayer();
-    NeedFirstDimStyle();
+    AddBaseLayer();
+    AddBaseStyle();
 }
 
 TVGRBaseLabel::~TVGRBaseLabel() { Teardown(); }
@@ -49,15 +49,11 @@ void TVGRBaseLabel::Teardown() {
     Clear({cleAll, cleBaseLayer, cleBaseStyle}, false);
 }
 
-void TVGRBaseLabel::NeedFirstLayer() {
-    if (fLayers.empty())
-        new TVGRLayer(*this);
-}
+void TVGRBaseLabel::AddBaseLayer() { new TVGRLayer(*this); }
 
-void TVGRBaseLabel::NeedFirstDimStyle() {
+void TVGRBaseLabel::AddBaseStyle() {
     constexpr TAlphaColor grey = 0xFF808080;
-    if (fDimStyles.empty())
-        new TVGRDimStyle(*this, TVGRMsg::GetPropValue(u"Default"), grey, grey, true, true);
+    new TVGRDimStyle(*this, TVGRMsg::GetPropValue(u"Default"), grey, grey, true, true);
 }
 
 void TVGRBaseLabel::Assign(const TVGRBaseLabel& source) {

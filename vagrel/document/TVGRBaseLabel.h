@@ -364,8 +364,10 @@ private:
     bool CheckNeedDrawUnits();
     void ClearSelectionLists();
     void FreeItems(TOwned<TVGRBaseItem>& items);
-    void NeedFirstLayer();
-    void NeedFirstDimStyle();
+    void AddBaseLayer();
+    void AddBaseStyle();
+    /// Frees the layer at a zero-based position. Its items go to the base layer, those of the base layer to the next.
+    void FreeLayer(std::size_t position);
     bool IsLargeUnit() const { return fUnits >= unDM && fUnits <= unYd; }
     void SelectOnly(TVGRBaseItem& item, TKSChange change);
     void FillBoxTexts();

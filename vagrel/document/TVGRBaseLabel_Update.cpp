@@ -237,8 +237,6 @@ void TVGRBaseLabel::EndRead(bool units) {
         if (units)
             ChangeValue(chUnits);
     }};
-    NeedFirstLayer();
-    NeedFirstDimStyle();
     AssignSymbolAndFlowLinks();
     CalcPending();
     SortItemsZLayer();
@@ -268,8 +266,8 @@ bool TVGRBaseLabel::CheckNeedDrawUnits() {
 void TVGRBaseLabel::Clear(TKSLClearSet what, bool paint) {
     const bool all = what.Has(cleAll);
     auto holds = [&](TKSLClear part) { return all || what.Has(part); };
-    const bool hadSelection = !fSelection.empty();
-    const bool hadItems = !fItems.empty();
+    const bool freesItems = holds(cleItems) && !fItems.empty();
+    const bool unselects = (holds(cleItems) || what.Has(cleSelection)) && !fSelection.empty();
 
     if (holds(cleUndoRedo)) {
         fUnReID = 0;
@@ -296,29 +294,37 @@ void TVGRBaseLabel::Clear(TKSLClearSet what, bool paint) {
         fData->Unlink();
         fCalcs.clear();
     }
-    if (holds(cleLayers)) {
-        for (const auto& item : fItems)
-            item->StoreLayer(GetLayer(1));
-        detail::Shrink(fLayers, 1);
-        fActiveLayer = 0;
+    // A document that goes on is never without a layer and a dimension style: observers and items look at them at any
+    // time. New ones stand in for the last ones.
+    if (holds(cleLayers))
+        while (fLayers.size() > 1)
+            FreeLayer(fLayers.size() - 1);
+    if (what.Has(cleBaseLayer)) {
+        if (fLayers.size() == 1 && !fDestroying)
+            AddBaseLayer();
+        FreeLayer(0);
     }
-    if (what.Has(cleBaseLayer) && !fLayers.empty())
-        detail::TakeOut(fLayers, 0);
+    if (holds(cleLayers) || what.Has(cleBaseLayer))
+        CheckBackLayer();
     if (holds(cleCounters))
         detail::Shrink(fCounters, 0);
     if (holds(cleDimStyles)) {
         detail::Shrink(fDimStyles, 1);
         fActiveDimStyle = 0;
     }
-    if (what.Has(cleBaseStyle) && !fDimStyles.empty())
+    if (what.Has(cleBaseStyle)) {
+        if (fDimStyles.size() == 1 && !fDestroying)
+            AddBaseStyle();
         detail::TakeOut(fDimStyles, 0);
+        fActiveDimStyle = std::max(fActiveDimStyle - 1, 0);
+    }
     if (what.Has(cleValList))
         fData->ClearListVal();
     if (what.Has(cleAskList))
         fData->ClearAskList();
 
     fModified = false;
-    if (paint && (hadSelection || hadItems))
+    if (paint && (unselects || freesItems))
         ChangeValue(chSelect);
 }
 
