@@ -113,7 +113,7 @@ public:
     int LayersCount() const { return int(fLayers.size()); }
     TVGRLayer& GetLayer(int index) const;
     /// The layer at a zero-based position of a file; the first one out of range.
-    TVGRLayer& LayerAt(int position) const { return GetLayer(position + 1); }
+    TVGRLayer& LayerAt(int position) const { return GetLayer(position < LayersCount() ? position + 1 : 1); }
     /// The zero-based position.
     int LayerIdx(const TVGRLayer& layer) const;
     std::vector<std::u16string> GetLayersNames() const;
@@ -437,20 +437,6 @@ private:
     struct TClose {
         TVGRBaseLabel& label;
         void operator()() const { label.EndUpdate(); }
-    };
-    TFinally<TClose> fClose;
-};
-
-/// A reading bracket that closes with its scope, after an exception too.
-class ReadScope {
-public:
-    ReadScope(TVGRBaseLabel& label, bool paste, bool units) : fClose((label.BeginRead(paste), TClose{label, units})) {}
-
-private:
-    struct TClose {
-        TVGRBaseLabel& label;
-        bool units;
-        void operator()() const { label.EndRead(units); }
     };
     TFinally<TClose> fClose;
 };

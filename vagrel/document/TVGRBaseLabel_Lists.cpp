@@ -126,14 +126,14 @@ void TVGRBaseLabel::Adopt(TVGRCounter& counter) { fCounters.emplace_back(&counte
 void TVGRBaseLabel::Forget(TVGRCounter& counter) { Release(fCounters, counter); }
 
 bool TVGRBaseLabel::SetActiveLayer(int index) {
-    if (index - 1 == fActiveLayer || !At(fLayers, index))
+    if (!At(fLayers, index) || index - 1 == fActiveLayer)
         return false;
     fActiveLayer = index - 1;
     return true;
 }
 
 bool TVGRBaseLabel::SetActiveDimStyle(int index) {
-    if (index - 1 == fActiveDimStyle || !At(fDimStyles, index))
+    if (!At(fDimStyles, index) || index - 1 == fActiveDimStyle)
         return false;
     fActiveDimStyle = index - 1;
     return true;
