@@ -63,5 +63,20 @@ TEST(Life, AnObserverThatDiesIsDetached) {
     EXPECT_FALSE(told);
 }
 
+TEST(Life, ADyingDocumentTellsNobody) {
+    RecordingObserver editor(duEditor);
+    int events = 0;
+    {
+        TestHost label;
+        label.AddToSelection(label.CreateLine(0, 0, 10, 10), false);
+        label.Attach(&editor);
+        editor.Take();
+        label.OnUndoRedo = [&](auto&&...) { ++events; };
+        label.OnUnSelectItem = [&](auto&&...) { ++events; };
+    }
+    EXPECT_TRUE(editor.told.empty());
+    EXPECT_EQ(events, 0);
+}
+
 } // namespace
 } // namespace vagrel::test

@@ -84,8 +84,8 @@ void TVGR2DItem::SetBaseHeight(std::int64_t value) {
     UpdateBounds();
 }
 
-float TVGR2DItem::GetWidthMM() const { return fOwner.GetValMM(BaseScaleWidth()); }
-float TVGR2DItem::GetHeightMM() const { return fOwner.GetValMM(BaseScaleHeight()); }
+float TVGR2DItem::GetWidthMM() const { return FromBase(BaseWidth()); }
+float TVGR2DItem::GetHeightMM() const { return FromBase(BaseHeight()); }
 
 std::int64_t TVGR2DItem::WidthPx(int dpi) const { return fOwner.ToPixels(BaseWidth(), dpi); }
 std::int64_t TVGR2DItem::HeightPx(int dpi) const { return fOwner.ToPixels(BaseHeight(), dpi); }

@@ -31,7 +31,7 @@ public:
     void SetHeight(float value) override;
     void SetBaseWidth(std::int64_t value) override;
     void SetBaseHeight(std::int64_t value) override;
-    /// Millimetres on paper, divided by the draw scale once more.
+    /// Millimetres on paper.
     float GetWidthMM() const;
     float GetHeightMM() const;
     std::int64_t WidthPx(int dpi) const;

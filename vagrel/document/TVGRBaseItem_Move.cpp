@@ -51,31 +51,63 @@ void MoveEdge(std::int64_t& value, std::int64_t offset, std::int64_t grid) {
     value = grid >= 0 ? grid : AddSat(value, offset);
 }
 
+void MoveAll(TKSLPtoA& points, std::int64_t bx, std::int64_t by, std::int64_t gx, std::int64_t gy) {
+    if (!points.empty() && (gx > 0 || gy > 0)) {
+        const TKSLPto first = points.front();
+        bx = SubSat(Moved(first.bX, bx, gx), first.bX);
+        by = SubSat(Moved(first.bY, by, gy), first.bY);
+    }
+    for (TKSLPto& point : points)
+        point.BaseMove(bx, by);
+}
+
+// Moves the corners of the box that the option names.
+void MoveCorners(TKSLPtoA& points, std::int64_t bx, std::int64_t by, std::int64_t gx, std::int64_t gy,
+                 TKSLMoveOpt option) {
+    if (points.size() < 2)
+        return;
+    if (LeftEdge.Has(option))
+        MoveEdge(points[0].bX, bx, gx);
+    if (RightEdge.Has(option))
+        MoveEdge(points[1].bX, bx, gx);
+    if (TopEdge.Has(option))
+        MoveEdge(points[0].bY, by, gy);
+    if (BottomEdge.Has(option))
+        MoveEdge(points[1].bY, by, gy);
+}
+
+// The position in `points` at which the segment nearest to a place starts.
+std::size_t NearestSegment(const TKSLPtoA& points, bool closed, std::int64_t bx, std::int64_t by) {
+    const std::size_t count = points.size();
+    std::size_t nearest = 0;
+    double least = std::numeric_limits<double>::infinity();
+    for (std::size_t i = 0; i < (closed ? count : count - 1); ++i) {
+        const TKSLPto a = points[i], b = points[(i + 1) % count];
+        const double dx = double(b.bX) - double(a.bX), dy = double(b.bY) - double(a.bY);
+        const double px = double(bx) - double(a.bX), py = double(by) - double(a.bY);
+        const double square = dx * dx + dy * dy;
+        const double along = square > 0 ? std::clamp((px * dx + py * dy) / square, 0.0, 1.0) : 0;
+        const double distance = std::hypot(px - along * dx, py - along * dy);
+        if (distance < least)
+            least = distance, nearest = i;
+    }
+    return nearest;
+}
+
 } // namespace
 
 void TVGRBaseItem::BaseMove(std::int64_t bx, std::int64_t by, std::int64_t gx, std::int64_t gy, TKSLMoveOpt option,
                             bool update) {
-    if (fPoints.empty())
-        return;
-    TVGRElePosCmd::AddCommand(*this);
-    if (option == moAll) {
-        if (gx > 0 || gy >= 1) {
-            bx = SubSat(Moved(At(1).bX, bx, gx), At(1).bX);
-            by = SubSat(Moved(At(1).bY, by, gy), At(1).bY);
-        }
-        for (TKSLPto& point : fPoints)
-            point.BaseMove(bx, by);
-    } else if (fPoints.size() >= 2) {
-        if (LeftEdge.Has(option))
-            MoveEdge(At(1).bX, bx, gx);
-        if (RightEdge.Has(option))
-            MoveEdge(At(2).bX, bx, gx);
-        if (TopEdge.Has(option))
-            MoveEdge(At(1).bY, by, gy);
-        if (BottomEdge.Has(option))
-            MoveEdge(At(2).bY, by, gy);
+    TKSLPtoA points = fPoints;
+    if (option == moAll)
+        MoveAll(points, bx, by, gx, gy);
+    else
+        MoveCorners(points, bx, by, gx, gy, option);
+    if (points != fPoints) {
+        TVGRElePosCmd::AddCommand(*this);
+        fPoints = std::move(points);
+        StateUpdate();
     }
-    StateUpdate();
     if (update)
         UpdateBounds();
 }
@@ -95,7 +127,7 @@ void TVGRBaseItem::Move(float ax, float ay, TKSLMoveOpt option) {
 }
 
 void TVGRBaseItem::RotateLeft() {
-    fAngle = fAngle == ag270 ? ag0 : TKSLAngle(fAngle + 1);
+    fAngle = fAngle >= ag0 && fAngle < ag270 ? TKSLAngle(fAngle + 1) : ag0;
     const std::int64_t height = fOwner.GetMeasure().GetSize(mtLabelHeight, true);
     for (TKSLPto& point : fPoints)
         point = {point.bY, SubSat(height, point.bX)};
@@ -104,7 +136,7 @@ void TVGRBaseItem::RotateLeft() {
 }
 
 void TVGRBaseItem::RotateRight() {
-    fAngle = fAngle == ag0 ? ag270 : TKSLAngle(fAngle - 1);
+    fAngle = fAngle > ag0 && fAngle <= ag270 ? TKSLAngle(fAngle - 1) : ag270;
     const std::int64_t width = fOwner.GetMeasure().GetSize(mtLabelWidth, true);
     for (TKSLPto& point : fPoints)
         point = {SubSat(width, point.bY), point.bX};
@@ -189,14 +221,9 @@ void TVGRBaseItem::Offset(std::int64_t dist, std::int64_t bx, std::int64_t by, b
     points = fPoints;
     if (count < 2)
         return;
-    // The segment that starts at the point nearest to the place tells the side.
-    auto away = [&](const TKSLPto& p) { return std::hypot(double(p.bX) - double(bx), double(p.bY) - double(by)); };
-    std::size_t nearest = 0;
-    for (std::size_t i = 1; i < count; ++i)
-        if (away(fPoints[i]) < away(fPoints[nearest]))
-            nearest = i;
-    if (nearest + 1 == count && !closed)
-        --nearest;
+    // The segment nearest to the place tells the side. Its nearest vertex would not: behind a corner the two segments
+    // have the place on different sides.
+    const std::size_t nearest = NearestSegment(fPoints, closed, bx, by);
     auto next = [&](std::size_t i) { return (i + 1) % count; };
     const TKSLPto a = fPoints[nearest], b = fPoints[next(nearest)];
     if (TDraw2D::PointSide(a.bX, a.bY, b.bX, b.bY, bx, by) < 0)

@@ -120,12 +120,11 @@ void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLRea
         SetBase(i, x, y);
     }
     ReadFields(version, reader);
+    UpdateBounds();
     if (type == rdPaste) {
-        BaseMove(fOwner.BaseMoveInc(), 0, 0, 0, moAll, false);
-        BaseMove(0, fOwner.BaseMoveInc(), 0, 0, moAll, false);
+        BaseMove(fOwner.BaseMoveInc(), fOwner.BaseMoveInc(), 0, 0, moAll, true);
         fOwner.AddToSelection(*this, false);
     }
-    UpdateBounds();
 }
 
 std::string TVGRBaseItem::GetSVGID(const TSVGOutput& out) const {

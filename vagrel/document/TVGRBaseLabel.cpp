@@ -21,6 +21,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <limits>
 
 namespace vagrel {
 
@@ -33,8 +34,8 @@ TVGRBaseLabel::TVGRBaseLabel(TComponent* owner)
       fData(std::make_unique<TVGRData>(*this)), fMeasure(std::make_unique<TVGRMeasure>(*this)),
       fMapping(std::make_unique<TVGRMapping>(*this)), fBackSurf(std::make_unique<TVGRBackSurf>(*this, true)),
       fSettings(std::make_unique<TVGRSettings>(*this)) {
-    NeedFirstLayer();
-    NeedFirstDimStyle();
+    AddBaseLayer();
+    AddBaseStyle();
 }
 
 TVGRBaseLabel::~TVGRBaseLabel() { Teardown(); }
@@ -48,15 +49,11 @@ void TVGRBaseLabel::Teardown() {
     Clear({cleAll, cleBaseLayer, cleBaseStyle}, false);
 }
 
-void TVGRBaseLabel::NeedFirstLayer() {
-    if (fLayers.empty())
-        new TVGRLayer(*this);
-}
+void TVGRBaseLabel::AddBaseLayer() { new TVGRLayer(*this); }
 
-void TVGRBaseLabel::NeedFirstDimStyle() {
+void TVGRBaseLabel::AddBaseStyle() {
     constexpr TAlphaColor grey = 0xFF808080;
-    if (fDimStyles.empty())
-        new TVGRDimStyle(*this, TVGRMsg::GetPropValue(u"Default"), grey, grey, true, true);
+    new TVGRDimStyle(*this, TVGRMsg::GetPropValue(u"Default"), grey, grey, true, true);
 }
 
 void TVGRBaseLabel::Assign(const TVGRBaseLabel& source) {
@@ -91,6 +88,8 @@ void TVGRBaseLabel::New() {
     Clear({cleAll}, true);
     fMeasure->Reset();
 }
+
+std::int32_t TVGRBaseLabel::NextID() { return fMaxID < std::numeric_limits<std::int32_t>::max() ? fMaxID++ : fMaxID; }
 
 void TVGRBaseLabel::RaiseMaxID(std::int32_t id) { fMaxID = std::max(fMaxID, id); }
 

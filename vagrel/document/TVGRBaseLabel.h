@@ -8,6 +8,7 @@
 
 #include <vagrel/document/Events.h>
 #include <vagrel/document/IKSObserver.h>
+#include <vagrel/document/TFinally.h>
 #include <vagrel/document/TKSSelectionValue.h>
 #include <vagrel/foundation/TComponent.h>
 
@@ -91,7 +92,8 @@ public:
 
     // Identifiers
 
-    std::int32_t NextID() { return fMaxID++; }
+    /// A new number for an item. They end at 2147483647, which is then given again.
+    std::int32_t NextID();
     /// The number that `NextID` will give rises to at least `id`.
     void RaiseMaxID(std::int32_t id);
     /// True when another item than `item` has this identifier, without regard to case.
@@ -111,7 +113,7 @@ public:
     int LayersCount() const { return int(fLayers.size()); }
     TVGRLayer& GetLayer(int index) const;
     /// The layer at a zero-based position of a file; the first one out of range.
-    TVGRLayer& LayerAt(int position) const { return GetLayer(position + 1); }
+    TVGRLayer& LayerAt(int position) const { return GetLayer(position < LayersCount() ? position + 1 : 1); }
     /// The zero-based position.
     int LayerIdx(const TVGRLayer& layer) const;
     std::vector<std::u16string> GetLayersNames() const;
@@ -362,8 +364,10 @@ private:
     bool CheckNeedDrawUnits();
     void ClearSelectionLists();
     void FreeItems(TOwned<TVGRBaseItem>& items);
-    void NeedFirstLayer();
-    void NeedFirstDimStyle();
+    void AddBaseLayer();
+    void AddBaseStyle();
+    /// Frees the layer at a zero-based position. Its items go to the base layer, those of the base layer to the next.
+    void FreeLayer(std::size_t position);
     bool IsLargeUnit() const { return fUnits >= unDM && fUnits <= unYd; }
     void SelectOnly(TVGRBaseItem& item, TKSChange change);
     void FillBoxTexts();
@@ -425,16 +429,16 @@ private:
 /// An update bracket that closes with its scope, after an exception too.
 class UpdateScope {
 public:
-    explicit UpdateScope(TVGRBaseLabel& label, bool paintOnEnd = true) : fLabel(label) {
+    explicit UpdateScope(TVGRBaseLabel& label, bool paintOnEnd = true) : fClose(TClose{label}) {
         label.BeginUpdate(paintOnEnd);
     }
-    UpdateScope(const UpdateScope&) = delete;
-    UpdateScope& operator=(const UpdateScope&) = delete;
-    // Observers that are told at the end may throw.
-    ~UpdateScope() noexcept(false) { fLabel.EndUpdate(); }
 
 private:
-    TVGRBaseLabel& fLabel;
+    struct TClose {
+        TVGRBaseLabel& label;
+        void operator()() const { label.EndUpdate(); }
+    };
+    TFinally<TClose> fClose;
 };
 
 } // namespace vagrel

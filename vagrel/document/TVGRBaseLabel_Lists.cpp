@@ -101,12 +101,10 @@ void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
     std::erase(fLinks, &item);
     std::erase(fCalcs, &item);
     std::erase_if(fSelPoint, [&](const TKSSelectionValue& handle) { return handle.Item == &item; });
-    if (!fIntersect.empty()) {
-        const std::scoped_lock guard(fCriticalSection);
-        const std::int32_t id = item.GetInID();
-        std::erase_if(fIntersect,
-                      [id](const TIntSecPoint& crossing) { return crossing.fID1 == id || crossing.fID2 == id; });
-    }
+    const std::scoped_lock guard(fCriticalSection);
+    const std::int32_t id = item.GetInID();
+    std::erase_if(fIntersect,
+                  [id](const TIntSecPoint& crossing) { return crossing.fID1 == id || crossing.fID2 == id; });
 }
 
 void TVGRBaseLabel::FreeItem(TVGRBaseItem& item) {
@@ -128,14 +126,14 @@ void TVGRBaseLabel::Adopt(TVGRCounter& counter) { fCounters.emplace_back(&counte
 void TVGRBaseLabel::Forget(TVGRCounter& counter) { Release(fCounters, counter); }
 
 bool TVGRBaseLabel::SetActiveLayer(int index) {
-    if (index - 1 == fActiveLayer || !At(fLayers, index))
+    if (!At(fLayers, index) || index - 1 == fActiveLayer)
         return false;
     fActiveLayer = index - 1;
     return true;
 }
 
 bool TVGRBaseLabel::SetActiveDimStyle(int index) {
-    if (index - 1 == fActiveDimStyle || !At(fDimStyles, index))
+    if (!At(fDimStyles, index) || index - 1 == fActiveDimStyle)
         return false;
     fActiveDimStyle = index - 1;
     return true;
@@ -145,19 +143,26 @@ TVGRLayer& TVGRBaseLabel::AddLayer() {
     return *new TVGRLayer(*this, TVGRMsg::GetInfoValue(u"NewLayer"), OpaqueBlack, OpaqueWhite);
 }
 
+void TVGRBaseLabel::FreeLayer(std::size_t position) {
+    const TVGRLayer& layer = *fLayers[position];
+    if (fLayers.size() > 1) {
+        TVGRLayer& heir = *fLayers[position == 0 ? 1 : 0];
+        for (const auto& items : {&fItems, &fPreview})
+            for (const auto& item : *items)
+                if (&item->GetLayer() == &layer)
+                    item->StoreLayer(heir);
+    }
+    if (fActiveLayer == std::int32_t(position))
+        fActiveLayer = 0;
+    else if (fActiveLayer > std::int32_t(position))
+        --fActiveLayer;
+    detail::TakeOut(fLayers, position);
+}
+
 bool TVGRBaseLabel::DeleteLayer(int index) {
     if (index < 2 || index > LayersCount())
         return false;
-    const TVGRLayer& layer = GetLayer(index);
-    for (const auto& items : {&fItems, &fPreview})
-        for (const auto& item : *items)
-            if (&item->GetLayer() == &layer)
-                item->StoreLayer(GetLayer(1));
-    if (fActiveLayer == index - 1)
-        fActiveLayer = 0;
-    else if (fActiveLayer > index - 1)
-        --fActiveLayer;
-    detail::TakeOut(fLayers, std::size_t(index - 1));
+    FreeLayer(std::size_t(index - 1));
     SortItemsZLayer();
     CheckBackLayer();
     fModified = true;

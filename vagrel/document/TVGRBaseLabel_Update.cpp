@@ -14,7 +14,6 @@
 
 #include <algorithm>
 #include <array>
-#include <exception>
 
 namespace vagrel {
 
@@ -42,15 +41,6 @@ constexpr std::array<TDests, chSelSymbol + 1> Audience = [] {
     return table;
 }();
 static_assert(Audience[chEndInspect].Empty());
-
-// Runs an action at the end of a scope, also when the scope is left by an exception.
-template <class Action>
-struct TFinally {
-    Action action;
-    ~TFinally() noexcept(false) { action(); }
-};
-template <class Action>
-TFinally(Action) -> TFinally<Action>;
 
 } // namespace
 
@@ -171,9 +161,9 @@ void TVGRBaseLabel::BeginUpdate(bool paintOnEnd) {
 
 void TVGRBaseLabel::CalcPending() {
     // Calculating one item may ask for another: links follow their shapes.
+    const TFinally empty{[this] { fCalcs.clear(); }};
     for (std::size_t i = 0; i < fCalcs.size(); ++i)
         fCalcs[i]->CalcValues(2);
-    fCalcs.clear();
 }
 
 void TVGRBaseLabel::FinishUpdate() {
@@ -182,8 +172,10 @@ void TVGRBaseLabel::FinishUpdate() {
         fStates -= {lsNoPaint, lsUpdate, lsUpdateMeasure, lsCalc};
     }};
     fUpdate = true;
-    FillSelPoints();
-    RemoveState(lsUpdating);
+    {
+        const TFinally close{[this] { RemoveState(lsUpdating); }};
+        FillSelPoints();
+    }
     if (fStates.Has(lsUpdateMeasure))
         ChangeValue(chMeasure);
     else if (fStates.Has(lsUpdate) && !fStates.Has(lsNoPaint))
@@ -193,8 +185,8 @@ void TVGRBaseLabel::FinishUpdate() {
 void TVGRBaseLabel::EndUpdate() {
     ++fUnReID;
     fIncUnReID = true;
+    const TFinally finish{[this] { FinishUpdate(); }};
     CalcPending();
-    FinishUpdate();
 }
 
 void TVGRBaseLabel::EndUpdateSelection() {
@@ -210,9 +202,9 @@ void TVGRBaseLabel::EndUpdateSelection() {
 }
 
 void TVGRBaseLabel::Refresh() {
+    const TFinally clear{[this] { fUpdate = false; }};
     fUpdate = true;
     ChangeValue(chPaint);
-    fUpdate = false;
 }
 
 void TVGRBaseLabel::PaintEditor() {
@@ -236,16 +228,15 @@ void TVGRBaseLabel::BeginRead(bool paste) {
 void TVGRBaseLabel::EndRead(bool units) {
     fIncUnReID = true;
     if (!fStates.Has(lsPaste))
-        ++fMaxID;
+        NextID();
     fStates -= {lsPaste, lsUpdating, lsReading};
     const TFinally close{[this, units] {
-        fOptions.Put(loUndoRedo, fUndoOpt);
+        if (fUndoOpt)
+            fOptions += {loUndoRedo};
+        const TFinally finish{[this] { FinishUpdate(); }};
         if (units)
             ChangeValue(chUnits);
-        FinishUpdate();
     }};
-    NeedFirstLayer();
-    NeedFirstDimStyle();
     AssignSymbolAndFlowLinks();
     CalcPending();
     SortItemsZLayer();
@@ -257,15 +248,15 @@ void TVGRBaseLabel::EndRead(bool units) {
 }
 
 void TVGRBaseLabel::AssignSymbolAndFlowLinks() {
-    for (const auto& item : fItems)
-        item->ResolveReferences();
+    for (std::size_t i = 0; i < fItems.size(); ++i)
+        fItems[i]->ResolveReferences();
 }
 
 bool TVGRBaseLabel::CheckNeedDrawUnits() {
     bool any = false;
-    for (const auto& item : fItems) {
-        if (item->ShowsUnits()) {
-            item->CalcValues(1);
+    for (std::size_t i = 0; i < fItems.size(); ++i) {
+        if (fItems[i]->ShowsUnits()) {
+            fItems[i]->CalcValues(1);
             any = true;
         }
     }
@@ -275,8 +266,8 @@ bool TVGRBaseLabel::CheckNeedDrawUnits() {
 void TVGRBaseLabel::Clear(TKSLClearSet what, bool paint) {
     const bool all = what.Has(cleAll);
     auto holds = [&](TKSLClear part) { return all || what.Has(part); };
-    const bool hadSelection = !fSelection.empty();
-    const bool hadItems = !fItems.empty();
+    const bool freesItems = holds(cleItems) && !fItems.empty();
+    const bool unselects = (holds(cleItems) || what.Has(cleSelection)) && !fSelection.empty();
 
     if (holds(cleUndoRedo)) {
         fUnReID = 0;
@@ -303,29 +294,37 @@ void TVGRBaseLabel::Clear(TKSLClearSet what, bool paint) {
         fData->Unlink();
         fCalcs.clear();
     }
-    if (holds(cleLayers)) {
-        for (const auto& item : fItems)
-            item->StoreLayer(GetLayer(1));
-        detail::Shrink(fLayers, 1);
-        fActiveLayer = 0;
+    // A document that goes on is never without a layer and a dimension style: observers and items look at them at any
+    // time. New ones stand in for the last ones.
+    if (holds(cleLayers))
+        while (fLayers.size() > 1)
+            FreeLayer(fLayers.size() - 1);
+    if (what.Has(cleBaseLayer)) {
+        if (fLayers.size() == 1 && !fDestroying)
+            AddBaseLayer();
+        FreeLayer(0);
     }
-    if (what.Has(cleBaseLayer) && !fLayers.empty())
-        detail::TakeOut(fLayers, 0);
+    if (holds(cleLayers) || what.Has(cleBaseLayer))
+        CheckBackLayer();
     if (holds(cleCounters))
         detail::Shrink(fCounters, 0);
     if (holds(cleDimStyles)) {
         detail::Shrink(fDimStyles, 1);
         fActiveDimStyle = 0;
     }
-    if (what.Has(cleBaseStyle) && !fDimStyles.empty())
+    if (what.Has(cleBaseStyle)) {
+        if (fDimStyles.size() == 1 && !fDestroying)
+            AddBaseStyle();
         detail::TakeOut(fDimStyles, 0);
+        fActiveDimStyle = std::max(fActiveDimStyle - 1, 0);
+    }
     if (what.Has(cleValList))
         fData->ClearListVal();
     if (what.Has(cleAskList))
         fData->ClearAskList();
 
     fModified = false;
-    if (paint && (hadSelection || hadItems))
+    if (paint && (unselects || freesItems))
         ChangeValue(chSelect);
 }
 

@@ -2,6 +2,7 @@
 // The JSON document: everything but the items, which need the host's classes to be read.
 #include <vagrel/document/TVGRBaseLabel.h>
 
+#include <vagrel/document/Owned_p.h>
 #include <vagrel/document/TVGRBackSurf.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRBasePrintInfo.h>
@@ -88,10 +89,13 @@ void TVGRBaseLabel::ReadJson(TJsonObject& json) {
     if (json.GetArray(u"Symbols").Count() > 0)
         throw ENotAvailable(u"Symbols: symbols are not available yet");
     ReadElements<TVGRLayer>(*this, version, json, u"Layers");
-    NeedFirstLayer();
+    // What stood in for the layers and styles of the file goes.
+    if (fLayers.size() > 1)
+        FreeLayer(0);
     if (HasDrawScale())
         ReadElements<TVGRDimStyle>(*this, version, json, u"DimStyles");
-    NeedFirstDimStyle();
+    if (fDimStyles.size() > 1)
+        detail::TakeOut(fDimStyles, 0);
     ReadElements<TVGRCounter>(*this, version, json, u"Counters");
 }
 

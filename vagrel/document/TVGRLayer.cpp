@@ -122,10 +122,9 @@ void TVGRLayer::SetFileImg(std::u16string_view file) {
     fArrayB.clear();
     const fs::path source(ToUtf8(file));
     const fs::path target = fs::path(ToUtf8(fOwner.GetAbsoluteImagePath())) / source.filename();
-    // A bare name of a file that already lies in the image folder needs no copy.
-    const bool inFolder = source == source.filename() && fs::exists(target);
-    if (!inFolder && !fs::exists(target)) {
-        std::error_code error;
+    std::error_code error;
+    // A file of this name in the image folder is taken for the same picture.
+    if (!fs::exists(target, error)) {
         if (!fs::copy_file(source, target, error))
             throw EStreamError("cannot copy \"" + source.string() + "\" to \"" + target.string() +
                                "\": " + error.message());
