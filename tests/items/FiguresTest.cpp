@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: MIT
+// Rectangle, polygon, Bezier, circle, ellipse, sector.
+#include <tests/support/TestHost.h>
+
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/foundation/Exceptions.h>
+#include <vagrel/items/figures/TVGRBaseBezier.h>
+#include <vagrel/items/figures/TVGRBaseCircle.h>
+#include <vagrel/items/figures/TVGRBaseEllipse.h>
+#include <vagrel/items/figures/TVGRBasePolygon.h>
+#include <vagrel/items/figures/TVGRBaseRectangle.h>
+#include <vagrel/items/figures/TVGRBaseSector.h>
+#include <vagrel/persistence/TBinaryWriter.h>
+
+#include <gtest/gtest.h>
+
+namespace vagrel::test {
+namespace {
+
+// One of each in a label of 60 × 35 mm.
+struct Figures : testing::Test {
+    TestHost label;
+    TVGRBaseRectangle& rectangle = Make<TVGRBaseRectangle>(label.CreateRectangle(10000, 10000, 20000, 10000));
+    TVGRBasePolygon& polygon =
+        Make<TVGRBasePolygon>(label.CreatePolygon({{10000, 10000}, {40000, 10000}, {10000, 30000}}));
+    TVGRBaseBezier& bezier =
+        Make<TVGRBaseBezier>(label.CreateBezier({{10000, 30000}, {10000, 10000}, {40000, 10000}, {40000, 30000}}));
+    TVGRBaseCircle& circle = Make<TVGRBaseCircle>(label.CreateCircle({30000, 20000}, 10000));
+    TVGRBaseEllipse& ellipse = Make<TVGRBaseEllipse>(label.CreateEllipse({30000, 20000}, 20000, 10000));
+    TVGRBaseSector& sector = Make<TVGRBaseSector>(label.CreateSector({30000, 20000}, 10000, 0, 90));
+
+    template <class Family>
+    static Family& Make(TVGRBaseItem& item) {
+        return dynamic_cast<Family&>(item);
+    }
+};
+
+TEST_F(Figures, PickKnowsFilledFromHollow) {
+    const struct {
+        const char* text;
+        TVGR2DItem& item;
+        TKSLPto at;
+        bool filled, hollow;
+    } rows[] = {
+        {"inside a rectangle", rectangle, {20000, 15000}, true, false},
+        {"its ring runs inwards", rectangle, {20000, 10599}, true, true},
+        {"by tolerance and pen", rectangle, {20000, 10600}, true, false},
+        {"inside a polygon", polygon, {15000, 15000}, true, false},
+        {"on its closing side", polygon, {10400, 20000}, true, true},
+        {"in its bounds only", polygon, {35000, 25000}, false, false},
+        {"on a curve", bezier, {25000, 15100}, true, true},
+        {"inside a curve", bezier, {25000, 25000}, false, false},
+        {"on the chord of a curve", bezier, {25000, 29900}, true, false},
+        {"inside a circle", circle, {30000, 20000}, true, false},
+        {"on its rim", circle, {37000, 27000}, true, true},
+        {"outside by less than the tolerance", circle, {37200, 27200}, false, true},
+        {"outside, where the offsets add up to little", circle, {30100, 10050}, true, true},
+        {"inside an ellipse", ellipse, {30000, 20000}, true, false},
+        {"in its bounds only", ellipse, {48000, 28000}, false, false},
+        {"in the part of the disc that a sector leaves out", sector, {25000, 15000}, true, false},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.item.Pick(row.at.bX, row.at.bY, 500, true), row.filled) << row.text;
+        row.item.SetFilled(false);
+        EXPECT_EQ(row.item.Pick(row.at.bX, row.at.bY, 500, true), row.hollow) << row.text << ", hollow";
+        row.item.SetFilled(true);
+    }
+    EXPECT_FALSE(polygon.Pick(15000, 15000, 500, false));
+    circle.SetBackColor(0x00FFFFFF);
+    EXPECT_FALSE(circle.Pick(30000, 20000, 500, true));
+}
+
+TEST_F(Figures, SearchFollowsTheOutline) {
+    const struct {
+        const char* text;
+        TVGRBaseItem& item;
+        TKSLRect rect;
+        bool intersects, hit;
+    } rows[] = {
+        {"a corner of the circle's box", circle, {20000, 10000, 22000, 12000}, true, false},
+        {"inside the circle", circle, {29000, 19000, 31000, 21000}, true, true},
+        {"a corner of the ellipse's box", ellipse, {10000, 10000, 14000, 12000}, true, false},
+        {"the ellipse but a bit", ellipse, {10000, 10000, 49999, 30000}, false, false},
+        {"a corner of the polygon's box", polygon, {35000, 25000, 39000, 29000}, true, true},
+        {"a corner in the disc of the sector", sector, {10000, 5000, 25000, 15000}, true, true},
+        {"a band across the sector", sector, {10000, 19000, 50000, 21000}, true, false},
+        {"around the sector", sector, {20000, 10000, 40000, 30000}, true, true},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(row.item.SearchRect(row.rect, row.intersects), row.hit) << row.text;
+}
+
+TEST_F(Figures, SnapsFindTheirPoints) {
+    constexpr TKSLPto no{-1, -1};
+    const struct {
+        const char* text;
+        TVGRBaseItem& item;
+        TKSLSnap snap;
+        TKSLPto at, last, hit;
+        TKSRefType type;
+    } rows[] = {
+        {"top", rectangle, snMiddle, {20200, 9800}, no, {20000, 10000}, rtyRect},
+        {"corner", rectangle, snEnd, {29800, 10200}, no, {30000, 10000}, rtyRect},
+        {"foot on the bottom", rectangle, snPerpendicular, {12000, 20000}, {12000, 50000}, {12000, 20000}, rtyRect},
+        {"middle of the closing side", polygon, snMiddle, {10200, 20200}, no, {10000, 20000}, rtyRect},
+        {"foot on the closing side", polygon, snPerpendicular, {10000, 12000}, {40000, 12000}, {10000, 12000}, rtyRect},
+        {"control points are no ends", bezier, snEnd, {40000, 10000}, no, no, rtyRect},
+        {"centre", circle, snCenter, {30200, 19800}, no, {30000, 20000}, rtyCircle},
+        {"rim towards the cursor", circle, snTangent, {30000, 10200}, no, {30000, 10000}, rtyCircle},
+        {"not near the rim", circle, snTangent, {30000, 10301}, no, no, rtyRect},
+        {"lower tangent, from afar", circle, snTangent, {20000, 20001}, {50000, 20000}, {35000, 28660}, rtyCircle},
+        {"no tangent from inside", circle, snTangent, {40000, 20000}, {32000, 20000}, no, rtyRect},
+        {"a sector has no tangent", sector, snTangent, {40000, 20000}, no, no, rtyRect},
+    };
+    for (const auto& row : rows) {
+        TKSLRef ref;
+        ref.Reset(true);
+        ref.lbX = row.last.bX, ref.lbY = row.last.bY;
+        EXPECT_EQ(row.item.CheckPoint(row.at.bX, row.at.bY, 300, row.snap, ref), row.hit != no) << row.text;
+        EXPECT_EQ((TKSLPto{ref.bX, ref.bY}), row.hit) << row.text;
+        EXPECT_EQ(ref.fType, row.type) << row.text;
+    }
+    rectangle.SetBaseRadio(10);
+    TKSLRef ref;
+    EXPECT_FALSE(rectangle.CheckPoint(10000, 10000, 300, snEnd, ref));
+}
+
+TEST_F(Figures, SettersKeepTheirLimits) {
+    auto start = [&](float value) { return sector.SetStartAngle(value), sector.GetStartAngle(); };
+    auto sweep = [&](float value) { return sector.SetSweepAngle(value), sector.GetSweepAngle(); };
+    EXPECT_EQ(start(400), 360);
+    EXPECT_EQ(start(-400), -359);
+    EXPECT_EQ(start(-100), -100);
+    EXPECT_EQ(sweep(300), 260);
+    EXPECT_EQ(sweep(-5), 0);
+
+    rectangle.SetRadio(7);
+    EXPECT_EQ(rectangle.GetRadio(), 5);
+    rectangle.SetBaseRadio(std::int64_t(1) << 31);
+    TBinaryWriter writer;
+    EXPECT_THROW(rectangle.Write(writer), EOutOfRange);
+
+    auto centre = [](auto& item, float x, float y) {
+        item.SetCenterX(x);
+        item.SetCenterY(y);
+        return item.CenterPoint();
+    };
+    EXPECT_EQ(centre(circle, 0, 100), (TKSLBase{10000, 25000}));
+    EXPECT_EQ(centre(ellipse, 100, 0), (TKSLBase{40000, 10000}));
+    EXPECT_EQ(ellipse.Points(), (TKSLPtoA{{20000, 0}, {60000, 20000}}));
+    circle.SetRadio(2.5f);
+    EXPECT_EQ(circle.Points(), (TKSLPtoA{{7500, 22500}, {12500, 27500}}));
+    ellipse.SetRadioY(3);
+    EXPECT_EQ(ellipse.BoundsRect(), (TKSLRect{20000, 7000, 60000, 13000}));
+
+    // On a scaled label only the ellipse may go where the drawing is.
+    TestHost drawing(emDrawing, unMM, 10);
+    drawing.GetMeasure().SetLabelSizeMM(60, 35);
+    auto& wide = Make<TVGRBaseEllipse>(drawing.CreateEllipse({30000, 20000}, 10000, 10000));
+    auto& round = Make<TVGRBaseCircle>(drawing.CreateCircle({30000, 20000}, 10000));
+    EXPECT_EQ(centre(wide, 300, 400), (TKSLBase{300000, 340000}));
+    EXPECT_EQ(centre(round, 300, 400), (TKSLBase{50000, 25000}));
+}
+
+TEST_F(Figures, ExtentOfASectorIsItsSlice) {
+    const struct {
+        float start, sweep;
+        std::array<std::int64_t, 4> extent;
+    } rows[] = {
+        {0, 90, {30000, 40000, 20000, 30000}},
+        {180, 90, {20000, 30000, 10000, 20000}},
+        {0, 360, {20000, 40000, 10000, 30000}},
+    };
+    for (const auto& row : rows) {
+        sector.SetStartAngle(row.start);
+        sector.SetSweepAngle(row.sweep);
+        TKSLExtent extent;
+        sector.CheckFit(extent);
+        EXPECT_EQ((std::array{extent.minX, extent.maxX, extent.minY, extent.maxY}), row.extent) << row.start;
+    }
+}
+
+TEST_F(Figures, SvgFollowsTheTemplates) {
+    auto written = [](const TVGRBaseItem& item) {
+        TSVGOutput out;
+        item.WriteSVG(out);
+        EXPECT_LE(out.svg.size(), 1u);
+        return out.svg.empty() ? std::string() : out.svg.front();
+    };
+    const std::string pen = R"(  stroke="#000000" stroke-width="0.1")", full = R"(  fill="#FFFFFF")" + pen;
+    const std::string none = R"( fill="none")" + pen;
+    const std::string box = R"(<rect x="10" y="10" width="20" height="10" )";
+    const std::string points = R"(<polygon points="10,10 40,10 10,30")",
+                      curve = R"(<path d="M 10,30 C 10,10 40,10 40,30)";
+    const std::string disc = R"(<circle cx="30" cy="20" r="10")";
+    const std::string oval = R"(<ellipse cx="30" cy="20" rx="20" ry="10")";
+    const std::string slice = R"(<path d="M30,20 L40,20 A10,10 0 0,1 30,30 Z")";
+    const struct {
+        TVGR2DItem& item;
+        std::string filled, hollow;
+        bool needsPen;
+    } rows[] = {
+        {rectangle, box + full.substr(1) + "/>", box + none + "/>", false},
+        {polygon, points + full + "/>", points + none + "/>", false},
+        {bezier, curve + " Z\"" + full + "/>",
+         curve + R"("  stroke="#000000" fill="none" stroke-width="0.1" stroke-linecap="round" />)", false},
+        {circle, disc + full + " />", disc + none + " />", true},
+        {ellipse, oval + full + "/>", oval + none + "/>", true},
+        {sector, slice + full + " />", slice + none + " />", true},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(written(row.item), row.filled);
+        row.item.SetFilled(false);
+        EXPECT_EQ(written(row.item), row.hollow);
+        row.item.SetPenWidth(0);
+        EXPECT_EQ(written(row.item).empty(), row.needsPen) << row.hollow;
+        row.item.SetPenWidth(0.1f);
+        row.item.SetFilled(true);
+    }
+
+    rectangle.SetRadio(2.5f);
+    EXPECT_EQ(written(rectangle), box + R"( rx="2.50" )" + full.substr(1) + "/>");
+    sector.SetLineType(ii11);
+    sector.SetSweepAngle(200);
+    sector.RotateLeft(); // about the page, 35 mm high
+    EXPECT_EQ(sector.GetStartAngle(), 0);
+    EXPECT_EQ(written(sector),
+              R"(<path d="M20,5 L20,-5 A10,10 0 1,1 16.58,14.40 Z")" + full + R"(  stroke-dasharray="1" />)");
+    sector.SetSweepAngle(360);
+    EXPECT_EQ(written(sector), R"(<circle cx="20" cy="5" r="10")" + full + R"(  stroke-dasharray="1" />)");
+    TestHost other;
+    EXPECT_EQ(written(other.CreateBezier({{10, 10}})), "");
+}
+
+} // namespace
+} // namespace vagrel::test

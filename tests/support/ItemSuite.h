@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// One sample of every kind of item, and what can be done with any of them.
+#pragma once
+
+#include <tests/support/TestHost.h>
+#include <vagrel/document/TVGRBaseItem.h>
+
+#include <optional>
+
+namespace vagrel::test {
+
+/// How an item of a type is made and what is known of it then. Points are base coordinates.
+struct TItemSample {
+    TKSLItemType type;
+    TKSLPtoA points;
+    /// A place on its outline.
+    TKSLPto on;
+    /// The snap that finds its reference points, for the types that have one.
+    std::optional<TKSLSnap> snap;
+    /// Makes a preview copy, without points.
+    TVGRBaseItem& (*preview)(TVGRBaseLabel&);
+};
+
+/// Null for a type without a sample.
+const TItemSample* SampleOf(TKSLItemType type);
+
+/// The sample's item on the active layer.
+TVGRBaseItem& MakeSample(TVGRBaseLabel& label, const TItemSample& sample);
+
+/// Sets every property of every capability that the item answers to, and expects to read it back.
+void SetEverything(TVGRBaseItem& item);
+
+/// Whether all tags of a text are closed and all their attributes quoted.
+bool IsWellFormed(const std::string& xml);
+
+} // namespace vagrel::test
