@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Rectangle, polygon, Bezier, circle, ellipse, sector.
-#include <tests/support/TestHost.h>
+#include <tests/support/ItemSuite.h>
 
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Exceptions.h>
@@ -71,55 +71,32 @@ TEST_F(Figures, PickKnowsFilledFromHollow) {
 }
 
 TEST_F(Figures, SearchFollowsTheOutline) {
-    const struct {
-        const char* text;
-        TVGRBaseItem& item;
-        TKSLRect rect;
-        bool intersects, hit;
-    } rows[] = {
-        {"a corner of the circle's box", circle, {20000, 10000, 22000, 12000}, true, false},
-        {"inside the circle", circle, {29000, 19000, 31000, 21000}, true, true},
-        {"a corner of the ellipse's box", ellipse, {10000, 10000, 14000, 12000}, true, false},
-        {"the ellipse but a bit", ellipse, {10000, 10000, 49999, 30000}, false, false},
-        {"a corner of the polygon's box", polygon, {35000, 25000, 39000, 29000}, true, true},
-        {"a corner in the disc of the sector", sector, {10000, 5000, 25000, 15000}, true, true},
-        {"a band across the sector", sector, {10000, 19000, 50000, 21000}, true, false},
-        {"around the sector", sector, {20000, 10000, 40000, 30000}, true, true},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(row.item.SearchRect(row.rect, row.intersects), row.hit) << row.text;
+    EXPECT_FALSE(circle.SearchRect({20000, 10000, 22000, 12000}, true)) << "a corner of the box";
+    EXPECT_TRUE(circle.SearchRect({29000, 19000, 31000, 21000}, true)) << "inside";
+    EXPECT_FALSE(ellipse.SearchRect({10000, 10000, 14000, 12000}, true)) << "a corner of the box";
+    EXPECT_FALSE(ellipse.SearchRect({10000, 10000, 49999, 30000}, false)) << "all but a bit";
+    EXPECT_TRUE(polygon.SearchRect({35000, 25000, 39000, 29000}, true)) << "a polygon counts as its box";
+    EXPECT_TRUE(sector.SearchRect({10000, 5000, 25000, 15000}, true)) << "a corner in the disc";
+    EXPECT_FALSE(sector.SearchRect({10000, 19000, 50000, 21000}, true)) << "a band across";
+    EXPECT_TRUE(sector.SearchRect({20000, 10000, 40000, 30000}, true)) << "around";
 }
 
 TEST_F(Figures, SnapsFindTheirPoints) {
-    constexpr TKSLPto no{-1, -1};
-    const struct {
-        const char* text;
-        TVGRBaseItem& item;
-        TKSLSnap snap;
-        TKSLPto at, last, hit;
-        TKSRefType type;
-    } rows[] = {
-        {"top", rectangle, snMiddle, {20200, 9800}, no, {20000, 10000}, rtyRect},
-        {"corner", rectangle, snEnd, {29800, 10200}, no, {30000, 10000}, rtyRect},
-        {"foot on the bottom", rectangle, snPerpendicular, {12000, 20000}, {12000, 50000}, {12000, 20000}, rtyRect},
-        {"middle of the closing side", polygon, snMiddle, {10200, 20200}, no, {10000, 20000}, rtyRect},
-        {"foot on the closing side", polygon, snPerpendicular, {10000, 12000}, {40000, 12000}, {10000, 12000}, rtyRect},
-        {"control points are no ends", bezier, snEnd, {40000, 10000}, no, no, rtyRect},
+    constexpr TKSLPto no = NoPoint;
+    CheckSnaps({
+        {"top", rectangle, snMiddle, {20200, 9800}, no, {20000, 10000}},
+        {"corner", rectangle, snEnd, {29800, 10200}, no, {30000, 10000}},
+        {"foot on the bottom", rectangle, snPerpendicular, {12000, 20000}, {12000, 50000}, {12000, 20000}},
+        {"middle of the closing side", polygon, snMiddle, {10200, 20200}, no, {10000, 20000}},
+        {"foot on the closing side", polygon, snPerpendicular, {10000, 12000}, {40000, 12000}, {10000, 12000}},
+        {"control points are no ends", bezier, snEnd, {40000, 10000}, no, no},
         {"centre", circle, snCenter, {30200, 19800}, no, {30000, 20000}, rtyCircle},
         {"rim towards the cursor", circle, snTangent, {30000, 10200}, no, {30000, 10000}, rtyCircle},
-        {"not near the rim", circle, snTangent, {30000, 10301}, no, no, rtyRect},
+        {"not near the rim", circle, snTangent, {30000, 10301}, no, no},
         {"lower tangent, from afar", circle, snTangent, {20000, 20001}, {50000, 20000}, {35000, 28660}, rtyCircle},
-        {"no tangent from inside", circle, snTangent, {40000, 20000}, {32000, 20000}, no, rtyRect},
-        {"a sector has no tangent", sector, snTangent, {40000, 20000}, no, no, rtyRect},
-    };
-    for (const auto& row : rows) {
-        TKSLRef ref;
-        ref.Reset(true);
-        ref.lbX = row.last.bX, ref.lbY = row.last.bY;
-        EXPECT_EQ(row.item.CheckPoint(row.at.bX, row.at.bY, 300, row.snap, ref), row.hit != no) << row.text;
-        EXPECT_EQ((TKSLPto{ref.bX, ref.bY}), row.hit) << row.text;
-        EXPECT_EQ(ref.fType, row.type) << row.text;
-    }
+        {"no tangent from inside", circle, snTangent, {40000, 20000}, {32000, 20000}, no},
+        {"a sector has no tangent", sector, snTangent, {40000, 20000}, no, no},
+    });
     rectangle.SetBaseRadio(10);
     TKSLRef ref;
     EXPECT_FALSE(rectangle.CheckPoint(10000, 10000, 300, snEnd, ref));
@@ -163,21 +140,16 @@ TEST_F(Figures, SettersKeepTheirLimits) {
 }
 
 TEST_F(Figures, ExtentOfASectorIsItsSlice) {
-    const struct {
-        float start, sweep;
-        std::array<std::int64_t, 4> extent;
-    } rows[] = {
-        {0, 90, {30000, 40000, 20000, 30000}},
-        {180, 90, {20000, 30000, 10000, 20000}},
-        {0, 360, {20000, 40000, 10000, 30000}},
+    auto extent = [&](float start, float sweep) {
+        sector.SetStartAngle(start);
+        sector.SetSweepAngle(sweep);
+        TKSLExtent found;
+        sector.CheckFit(found);
+        return TKSLRect{found.minX, found.minY, found.maxX, found.maxY};
     };
-    for (const auto& row : rows) {
-        sector.SetStartAngle(row.start);
-        sector.SetSweepAngle(row.sweep);
-        TKSLExtent extent;
-        sector.CheckFit(extent);
-        EXPECT_EQ((std::array{extent.minX, extent.maxX, extent.minY, extent.maxY}), row.extent) << row.start;
-    }
+    EXPECT_EQ(extent(0, 90), (TKSLRect{30000, 20000, 40000, 30000}));
+    EXPECT_EQ(extent(180, 90), (TKSLRect{20000, 10000, 30000, 20000}));
+    EXPECT_EQ(extent(0, 360), (TKSLRect{20000, 10000, 40000, 30000}));
 }
 
 TEST_F(Figures, SvgFollowsTheTemplates) {
@@ -190,8 +162,8 @@ TEST_F(Figures, SvgFollowsTheTemplates) {
     const std::string pen = R"(  stroke="#000000" stroke-width="0.1")", full = R"(  fill="#FFFFFF")" + pen;
     const std::string none = R"( fill="none")" + pen;
     const std::string box = R"(<rect x="10" y="10" width="20" height="10" )";
-    const std::string points = R"(<polygon points="10,10 40,10 10,30")",
-                      curve = R"(<path d="M 10,30 C 10,10 40,10 40,30)";
+    const std::string points = R"(<polygon points="10,10 40,10 10,30")";
+    const std::string curve = R"(<path d="M 10,30 C 10,10 40,10 40,30)";
     const std::string disc = R"(<circle cx="30" cy="20" r="10")";
     const std::string oval = R"(<ellipse cx="30" cy="20" rx="20" ry="10")";
     const std::string slice = R"(<path d="M30,20 L40,20 A10,10 0 0,1 30,30 Z")";

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Lines and polylines.
-#include <tests/support/TestHost.h>
+#include <tests/support/ItemSuite.h>
 
 #include <vagrel/items/lines/TVGRBasePolyLine.h>
 #include <vagrel/persistence/TBinaryWriter.h>
@@ -57,16 +57,11 @@ TEST(Lines, PickFollowsTheOutline) {
 }
 
 TEST(Lines, SnapsFindTheFirstPointInOrder) {
-    constexpr TKSLPto no{-1, -1};
+    constexpr TKSLPto no = NoPoint;
     TestHost label;
     TVGRBaseItem& line = label.CreateLine(10000, 10000, 40001, 10000);
     TVGRBaseItem& steps = label.CreatePolyLine(Steps);
-    const struct {
-        const char* text;
-        TVGRBaseItem& item;
-        TKSLSnap snap;
-        TKSLPto at, last, hit;
-    } rows[] = {
+    CheckSnaps({
         {"middle, halved towards zero", line, snMiddle, {25300, 9700}, no, {25000, 10000}},
         {"just beyond the box", line, snMiddle, {25301, 10000}, no, no},
         {"foot", line, snPerpendicular, {20100, 10100}, {20000, 50000}, {20000, 10000}},
@@ -75,15 +70,7 @@ TEST(Lines, SnapsFindTheFirstPointInOrder) {
         {"no centre", line, snCenter, {25000, 10000}, no, no},
         {"third end", steps, snEnd, {30200, 29800}, no, {30000, 30000}},
         {"foot on the second segment", steps, snPerpendicular, {30000, 15000}, {5000, 15000}, {30000, 15000}},
-    };
-    for (const auto& row : rows) {
-        TKSLRef ref;
-        ref.Reset(true);
-        ref.lbX = row.last.bX, ref.lbY = row.last.bY;
-        EXPECT_EQ(row.item.CheckPoint(row.at.bX, row.at.bY, 300, row.snap, ref), row.hit != no) << row.text;
-        EXPECT_EQ((TKSLPto{ref.bX, ref.bY}), row.hit) << row.text;
-        EXPECT_EQ(ref.link, row.hit != no) << row.text;
-    }
+    });
 }
 
 TEST(Lines, PointsAreInsertedAndDeleted) {

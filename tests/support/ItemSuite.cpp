@@ -18,7 +18,6 @@
 
 #include <algorithm>
 #include <regex>
-#include <type_traits>
 
 namespace vagrel::test {
 
@@ -99,21 +98,22 @@ void SetEverything(TVGRBaseItem& item) {
     }
 }
 
-bool IsWellFormed(const std::string& xml) {
-    static const std::regex tag(R"(<(/?)([a-zA-Z]+)(\s+[\w:-]+="[^"<]*")*\s*(/?)>|[<>])");
-    std::vector<std::string> open;
-    for (std::sregex_iterator hit(xml.begin(), xml.end(), tag), end; hit != end; ++hit) {
-        if (!(*hit)[2].matched)
-            return false;
-        if ((*hit)[1].length() == 0 && (*hit)[4].length() == 0)
-            open.push_back((*hit)[2]);
-        else if ((*hit)[1].length() != 0) {
-            if (open.empty() || open.back() != (*hit)[2])
-                return false;
-            open.pop_back();
-        }
+bool IsWellFormed(const std::string& svg) {
+    static const std::regex elements(R"([^]*<svg[^<>]*>\n(<[a-z]+(\s+[\w:-]+="[^"<]*")*\s*/>\s*)*</svg>\n)");
+    return std::regex_match(svg, elements);
+}
+
+void CheckSnaps(std::initializer_list<TSnapRow> rows) {
+    for (const TSnapRow& row : rows) {
+        const bool found = row.hit != NoPoint;
+        TKSLRef ref;
+        ref.Reset(true);
+        ref.lbX = row.last.bX, ref.lbY = row.last.bY;
+        EXPECT_EQ(row.item.CheckPoint(row.at.bX, row.at.bY, 300, row.snap, ref), found) << row.text;
+        EXPECT_EQ((TKSLPto{ref.bX, ref.bY}), row.hit) << row.text;
+        EXPECT_EQ(ref.link, found) << row.text;
+        EXPECT_EQ(ref.fType, row.type) << row.text;
     }
-    return open.empty();
 }
 
 } // namespace vagrel::test

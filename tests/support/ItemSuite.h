@@ -30,7 +30,19 @@ TVGRBaseItem& MakeSample(TVGRBaseLabel& label, const TItemSample& sample);
 /// Sets every property of every capability that the item answers to, and expects to read it back.
 void SetEverything(TVGRBaseItem& item);
 
-/// Whether all tags of a text are closed and all their attributes quoted.
-bool IsWellFormed(const std::string& xml);
+/// Whether a document holds nothing but closed elements with quoted attributes.
+bool IsWellFormed(const std::string& svg);
+
+constexpr TKSLPto NoPoint{-1, -1};
+
+/// A search for a snap point within 300 base units of `at`.
+struct TSnapRow {
+    const char* text;
+    TVGRBaseItem& item;
+    TKSLSnap snap;
+    TKSLPto at, last, hit;
+    TKSRefType type = rtyRect;
+};
+void CheckSnaps(std::initializer_list<TSnapRow> rows);
 
 } // namespace vagrel::test

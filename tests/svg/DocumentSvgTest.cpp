@@ -6,6 +6,8 @@
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/items/lines/TVGRBaseLine.h>
+#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/platform/Files.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -74,6 +76,13 @@ TEST(DocumentSvg, ItemsComeInPaintOrderWhenTheyShow) {
     EXPECT_EQ(order(), "ba");
     back.SetOptions({lopExport});
     EXPECT_EQ(order(), "b");
+}
+
+TEST(DocumentSvg, ARealDrawingSurvivesItsFile) {
+    TestHost label;
+    label.LoadFromFile(u"" VAGREL_SAMPLE);
+    EXPECT_GT(label.ItemsCount(), 200);
+    EXPECT_EQ(label.GetJson()->ToUtf8JSON(false), ReadFile(VAGREL_SAMPLE));
 }
 
 } // namespace
