@@ -42,7 +42,6 @@ TEST_F(Figures, PickKnowsFilledFromHollow) {
         TKSLPto at;
         bool filled, hollow;
     } rows[] = {
-        {"inside a rectangle", rectangle, {20000, 15000}, true, false},
         {"its ring runs inwards", rectangle, {20000, 10599}, true, true},
         {"by tolerance and pen", rectangle, {20000, 10600}, true, false},
         {"inside a polygon", polygon, {15000, 15000}, true, false},
@@ -51,11 +50,8 @@ TEST_F(Figures, PickKnowsFilledFromHollow) {
         {"on a curve", bezier, {25000, 15100}, true, true},
         {"inside a curve", bezier, {25000, 25000}, false, false},
         {"on the chord of a curve", bezier, {25000, 29900}, true, false},
-        {"inside a circle", circle, {30000, 20000}, true, false},
-        {"on its rim", circle, {37000, 27000}, true, true},
         {"outside by less than the tolerance", circle, {37200, 27200}, false, true},
         {"outside, where the offsets add up to little", circle, {30100, 10050}, true, true},
-        {"inside an ellipse", ellipse, {30000, 20000}, true, false},
         {"in its bounds only", ellipse, {48000, 28000}, false, false},
         {"in the part of the disc that a sector leaves out", sector, {25000, 15000}, true, false},
     };
@@ -87,7 +83,6 @@ TEST_F(Figures, SnapsFindTheirPoints) {
         {"top", rectangle, snMiddle, {20200, 9800}, no, {20000, 10000}},
         {"corner", rectangle, snEnd, {29800, 10200}, no, {30000, 10000}},
         {"foot on the bottom", rectangle, snPerpendicular, {12000, 20000}, {12000, 50000}, {12000, 20000}},
-        {"middle of the closing side", polygon, snMiddle, {10200, 20200}, no, {10000, 20000}},
         {"foot on the closing side", polygon, snPerpendicular, {10000, 12000}, {40000, 12000}, {10000, 12000}},
         {"control points are no ends", bezier, snEnd, {40000, 10000}, no, no},
         {"centre", circle, snCenter, {30200, 19800}, no, {30000, 20000}, rtyCircle},
@@ -95,7 +90,6 @@ TEST_F(Figures, SnapsFindTheirPoints) {
         {"not near the rim", circle, snTangent, {30000, 10301}, no, no},
         {"lower tangent, from afar", circle, snTangent, {20000, 20001}, {50000, 20000}, {35000, 28660}, rtyCircle},
         {"no tangent from inside", circle, snTangent, {40000, 20000}, {32000, 20000}, no},
-        {"a sector has no tangent", sector, snTangent, {40000, 20000}, no, no},
     });
     rectangle.SetBaseRadio(10);
     TKSLRef ref;

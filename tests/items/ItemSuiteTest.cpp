@@ -67,6 +67,17 @@ TEST_P(EveryItem, SurvivesTheBinaryForm) {
         EXPECT_THROW(other.CreateElementFromStream(std::string_view(bytes).substr(0, size)), EStreamError) << size;
 }
 
+TEST_P(EveryItem, AddsItsOwnToTheFilesOfAll) {
+    const auto json = item->WriteJson();
+    std::string keys;
+    for (const auto& member : *json)
+        keys = member.Name == u"Points" ? "" : keys + ToUtf8(member.Name) + ' ';
+    EXPECT_EQ(keys, sample->keys);
+    TBinaryWriter writer;
+    item->Write(writer);
+    EXPECT_EQ(writer.Bytes().size(), 29 + item->GetID().size() + 16 * item->Points().size() + sample->bytes);
+}
+
 TEST_P(EveryItem, WritesSvgInEveryMode) {
     SetEverything(*item);
     TestHost empty(emDrawing, unCM, 10);

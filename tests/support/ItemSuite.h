@@ -17,6 +17,9 @@ struct TItemSample {
     TKSLPto on;
     /// The snap that finds its reference points, for the types that have one.
     std::optional<TKSLSnap> snap;
+    /// What the family adds to the form of all items: its JSON keys, and the size of its binary fields.
+    std::string_view keys;
+    std::size_t bytes;
     /// Makes a preview copy, without points.
     TVGRBaseItem& (*preview)(TVGRBaseLabel&);
 };
