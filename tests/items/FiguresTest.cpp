@@ -88,6 +88,7 @@ TEST_F(Figures, SnapsFindTheirPoints) {
         {"centre", circle, snCenter, {30200, 19800}, no, {30000, 20000}, rtyCircle},
         {"rim towards the cursor", circle, snTangent, {30000, 10200}, no, {30000, 10000}, rtyCircle},
         {"not near the rim", circle, snTangent, {30000, 10301}, no, no},
+        {"upper tangent", circle, snTangent, {35000, 11340}, {50000, 20000}, {35000, 11340}, rtyCircle},
         {"lower tangent, from afar", circle, snTangent, {20000, 20001}, {50000, 20000}, {35000, 28660}, rtyCircle},
         {"no tangent from inside", circle, snTangent, {40000, 20000}, {32000, 20000}, no},
     });
