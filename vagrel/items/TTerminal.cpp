@@ -76,6 +76,8 @@ void TTerminals::CheckFit(const TKSLPtoA& points, TKSLExtent& extent) const {
 }
 
 void TTerminals::WriteSVG(const TVGRBaseItem& item, TSVGOutput& out) const {
+    if (item.NumPoints() == 0)
+        return;
     auto write = [&](const TTerminal& term, int tip, int back) {
         if (term.type != ttNone)
             out.svg.push_back(TExSVG::DrawTerm(term.type, out.ExportType, item.GetPointMMX(tip), item.GetPointMMY(tip),

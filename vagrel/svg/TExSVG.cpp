@@ -4,6 +4,7 @@
 
 #include <vagrel/foundation/Numbers.h>
 #include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/TDraw2D.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/svg/SvgElement.h>
 
@@ -23,8 +24,8 @@ constexpr std::array<std::u16string_view, 7> UnitNames{u"mm", u"in", u"cm", u"dm
 SvgElement Plain() { return SvgElement(svCurrentUnit, 1); }
 
 struct TSpot {
-    float x;
-    float y;
+    float x = 0;
+    float y = 0;
 };
 
 // Writes the elements of one terminal.
@@ -156,20 +157,17 @@ std::string TExSVG::DrawTerm(TKSLTermType aType, TKSLExportSVG ExportType, float
     const float left = p1x - half, right = p1x + half, top = p1y - half, bottom = p1y + half;
 
     const double direction = IsArc ? double(p2x) : std::atan2(double(p1y) - double(p2y), double(p1x) - double(p2x));
-    auto wing = [&](double side) {
-        const double size = double(Round(double(aTerm)));
-        const double angle = direction + side * std::numbers::pi / aOpen;
-        return TSpot{float(double(p1x) - size * std::cos(angle)), float(double(p1y) - size * std::sin(angle))};
-    };
+    TSpot one, two;
+    TDraw2D::DrawArrow(p1x, p1y, direction, float(Round(double(aTerm))), one.x, one.y, two.x, two.y, aOpen);
 
     switch (aType) {
     case ttCircle:
     case ttFillCircle:
         return out.Circle(tip, half, aType == ttFillCircle);
     case ttArrow:
-        return out.Line(tip, wing(-1)) + LineEnd + out.Line(tip, wing(1));
+        return out.Line(tip, one) + LineEnd + out.Line(tip, two);
     case ttFillArrow:
-        return out.Polygon({tip, wing(-1), wing(1)}, true);
+        return out.Polygon({tip, one, two}, true);
     case ttSquare:
     case ttFillSquare:
         return out.Square({left, top}, aTerm, aType == ttFillSquare);

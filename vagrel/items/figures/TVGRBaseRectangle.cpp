@@ -3,6 +3,7 @@
 #include <vagrel/items/figures/TVGRBaseRectangle.h>
 
 #include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Rounding.h>
 
 #include <algorithm>
@@ -90,8 +91,10 @@ void TVGRBaseRectangle::ReadKeys(std::int32_t version, TJsonObject& json) {
 }
 
 void TVGRBaseRectangle::WriteFields(TBinaryWriter& writer) const {
+    if (ToInt32(fRadio) != fRadio)
+        throw EOutOfRange(u"The corner radius of \"" + fID + u"\" is larger than the binary form can hold");
     WithLineType::WriteFields(writer);
-    writer.Write(ToInt32(fRadio));
+    writer.Write(std::int32_t(fRadio));
 }
 
 void TVGRBaseRectangle::ReadFields(std::int32_t version, TBinaryReader& reader) {

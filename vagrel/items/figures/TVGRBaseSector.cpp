@@ -82,18 +82,17 @@ bool TVGRBaseSector::SearchRect(const TKSLRect& rect, bool intersects) const {
            inside(rect.Left, rect.Bottom);
 }
 
-TPoint2D TVGRBaseSector::Rim(float degrees) const {
+TPoint2D TVGRBaseSector::ToRim(float degrees) const {
     const double angle = double(degrees) * std::numbers::pi / 180;
-    return {double(fBaseX) + double(fBaseRadioX) * std::cos(angle),
-            double(fBaseY) + double(fBaseRadioX) * std::sin(angle)};
+    return {double(fBaseRadioX) * std::cos(angle), double(fBaseRadioX) * std::sin(angle)};
 }
 
 void TVGRBaseSector::CheckFit(TKSLExtent& extent) const {
     if (fAngleGap == 360)
         return extent.Widen(fBaseX, fBaseY, fBaseRadioX);
     extent.Widen(fBaseX, fBaseY, 0);
-    for (const TPoint2D& rim : {Rim(fCalcStart), Rim(fCalcStart + fAngleGap)})
-        extent.Widen(Round(rim.X), Round(rim.Y), 0);
+    for (const TPoint2D& rim : {ToRim(fCalcStart), ToRim(fCalcStart + fAngleGap)})
+        extent.Widen(AddSat(fBaseX, Round(rim.X)), AddSat(fBaseY, Round(rim.Y)), 0);
 }
 
 void TVGRBaseSector::CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& props) const {
@@ -132,17 +131,17 @@ void TVGRBaseSector::WriteSVG(TSVGOutput& out) const {
     if (!Draws())
         return;
     SvgElement slice = out.Element();
-    auto place = [&](TPoint2D point) {
-        slice.Val(float(fOwner.ToPaper(point.X))) << ",";
-        slice.Val(float(fOwner.ToPaper(point.Y)));
+    auto place = [&](TPoint2D away) {
+        slice.Val(float(fOwner.ToPaper(double(fBaseX) + away.X))) << ",";
+        slice.Val(float(fOwner.ToPaper(double(fBaseY) + away.Y)));
     };
     slice << "<path" << GetSVGID(out) << " d=\"M";
-    place({double(fBaseX), double(fBaseY)});
+    place({0, 0});
     slice << " L";
-    place(Rim(fCalcStart));
+    place(ToRim(fCalcStart));
     (slice << " A").Val(FromBase(fBaseRadioX)) << ",";
     slice.Val(FromBase(fBaseRadioX)) << " 0 " << (fAngleGap > 180 ? "1" : "0") << ",1 ";
-    place(Rim(fCalcStart + fAngleGap));
+    place(ToRim(fCalcStart + fAngleGap));
     slice << (fFill ? " Z\" " : " Z\"");
     WriteFill(slice) << " ";
     slice.Stroke(fColor) << " stroke-width=\"";

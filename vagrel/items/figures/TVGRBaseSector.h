@@ -45,7 +45,8 @@ protected:
 
 private:
     void AdjustStartAngle();
-    TPoint2D Rim(float degrees) const;
+    /// From the centre to the rim in a direction.
+    TPoint2D ToRim(float degrees) const;
 
     float fAngleStart = 0;
     float fAngleGap = 0;

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+// The samples of the items' suite.
+#include <tests/support/ItemSuite.h>
+
+#include <host/HostItem.h>
+#include <host/ItemRegistry.h>
+#include <vagrel/document/TVGRBasePoint.h>
+#include <vagrel/items/figures/TVGRBaseBezier.h>
+#include <vagrel/items/figures/TVGRBaseCircle.h>
+#include <vagrel/items/figures/TVGRBaseEllipse.h>
+#include <vagrel/items/figures/TVGRBasePolygon.h>
+#include <vagrel/items/figures/TVGRBaseRectangle.h>
+#include <vagrel/items/figures/TVGRBaseSector.h>
+#include <vagrel/items/lines/TVGRBaseLine.h>
+#include <vagrel/items/lines/TVGRBasePolyLine.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <regex>
+
+namespace vagrel::test {
+
+namespace {
+
+template <class Family>
+TVGRBaseItem& Preview(TVGRBaseLabel& label) {
+    return *new HostItem<Family>(label, true);
+}
+
+const TKSLPtoA Box{{100000, 100000}, {200000, 180000}};
+const TKSLPtoA Square{{100000, 100000}, {200000, 200000}};
+const TKSLPtoA Zigzag{{100000, 100000}, {150000, 180000}, {200000, 100000}, {250000, 180000}};
+
+const TItemSample Samples[] = {
+    {itPoint, {{150000, 120000}}, {150000, 120000}, snPoint, "", 0, Preview<TVGRBasePoint>},
+    {itLine, Box, {150000, 140000}, snEnd, "LineType ", 4, Preview<TVGRBaseLine>},
+    {itPolyLine,
+     Zigzag,
+     {125000, 140000},
+     snEnd,
+     "LineType FromType SizeFrom FromColor ToType SizeTo ToColor ",
+     24,
+     Preview<TVGRBasePolyLine>},
+    {itRectangle, Box, {100000, 140000}, snEnd, "Filled FillColor LineType Radio ", 13, Preview<TVGRBaseRectangle>},
+    {itPolygon, Zigzag, {125000, 140000}, snEnd, "Filled FillColor LineType ", 9, Preview<TVGRBasePolygon>},
+    {itCircle, Square, {100000, 150000}, snTangent, "Filled FillColor LineType ", 9, Preview<TVGRBaseCircle>},
+    {itEllipse, Box, {150000, 100000}, {}, "Filled FillColor LineType ", 9, Preview<TVGRBaseEllipse>},
+    {itBezier,
+     Zigzag,
+     {175000, 140000},
+     {},
+     "Filled FillColor LineType FromType SizeFrom FromColor ToType SizeTo ToColor ",
+     29,
+     Preview<TVGRBaseBezier>},
+    {itSector,
+     Square,
+     {150000, 100000},
+     {},
+     "Filled FillColor LineType StartAngle SweepAngle ",
+     17,
+     Preview<TVGRBaseSector>},
+};
+
+// Sets a property of a capability and reads it back; nothing for an item without the capability.
+template <class I, class T, class Value>
+void Put(TVGRBaseItem& item, T (I::*get)() const, void (I::*set)(T), Value value) {
+    if (I* capability = Query<I>(&item)) {
+        (capability->*set)(T(value));
+        EXPECT_EQ((capability->*get)(), T(value));
+    }
+}
+
+} // namespace
+
+const TItemSample* SampleOf(TKSLItemType type) {
+    const auto hit = std::ranges::find(Samples, type, &TItemSample::type);
+    return hit == std::end(Samples) ? nullptr : &*hit;
+}
+
+TVGRBaseItem& MakeSample(TVGRBaseLabel& label, const TItemSample& sample) {
+    TVGRBaseItem& item = MakeItem(label, label.ActiveLayer(), sample.type, int(sample.points.size()));
+    item.AssignPoints(sample.points);
+    return item;
+}
+
+void SetEverything(TVGRBaseItem& item) {
+    item.SetID(u"My Item ñ 1");
+    item.SetOptions({lopVisible, lopExport});
+    Put(item, &IKSLStroke::GetColor, &IKSLStroke::SetColor, 0x80102030u);
+    Put(item, &IKSLStroke::GetPenWidth, &IKSLStroke::SetPenWidth, 0.35f);
+    Put(item, &IKSLStyle::GetLineType, &IKSLStyle::SetLineType, ii42);
+    Put(item, &IKSLBack::GetBackColor, &IKSLBack::SetBackColor, 0x40A0B0C0u);
+    Put(item, &IKSLBack::GetFilled, &IKSLBack::SetFilled, false);
+    Put(item, &IKSLSize::BaseWidth, &IKSLSize::SetBaseWidth, 90000);
+    Put(item, &IKSLSize::BaseHeight, &IKSLSize::SetBaseHeight, 70000);
+    Put(item, &IKSLSize::GetWidth, &IKSLSize::SetWidth, 8.5f);
+    Put(item, &IKSLSize::GetHeight, &IKSLSize::SetHeight, 6.5f);
+    Put(item, &IKSLWidthHeight::GetWidth, &IKSLWidthHeight::SetWidth, 9.5f);
+    Put(item, &IKSLWidthHeight::GetHeight, &IKSLWidthHeight::SetHeight, 7.5f);
+    Put(item, &IKSLRadio::GetBaseRadio, &IKSLRadio::SetBaseRadio, 12340);
+    Put(item, &IKSLRadio::GetRadio, &IKSLRadio::SetRadio, 2.5f);
+    Put(item, &IKSLCenter::GetCenterX, &IKSLCenter::SetCenterX, 20.25f);
+    Put(item, &IKSLCenter::GetCenterY, &IKSLCenter::SetCenterY, 15.75f);
+    Put(item, &IKSLAngle::GetAngle, &IKSLAngle::SetAngle, ag180);
+    Put(item, &IKSLSTerm::GetFromType, &IKSLSTerm::SetFromType, ttFillArrow);
+    Put(item, &IKSLSTerm::GetToType, &IKSLSTerm::SetToType, ttCross);
+    Put(item, &IKSLSTerm::GetFromColor, &IKSLSTerm::SetFromColor, 0xFF00FF00u);
+    Put(item, &IKSLSTerm::GetToColor, &IKSLSTerm::SetToColor, 0xFF0000FFu);
+    Put(item, &IKSLSTerm::BaseSizeFrom, &IKSLSTerm::SetBaseSizeFrom, 1250);
+    Put(item, &IKSLSTerm::BaseSizeTo, &IKSLSTerm::SetBaseSizeTo, 49000);
+    Put(item, &IKSLSTerm::GetSizeTo, &IKSLSTerm::SetSizeTo, 7.5f);
+    if (auto* sector = dynamic_cast<TVGRBaseSector*>(&item)) {
+        sector->SetStartAngle(-30.5f);
+        sector->SetSweepAngle(200.25f);
+    }
+}
+
+bool IsWellFormed(const std::string& svg) {
+    static const std::regex elements(R"([^]*<svg[^<>]*>\n(<[a-z]+(\s+[\w:-]+="[^"<]*")*\s*/>\s*)*</svg>\n)");
+    return std::regex_match(svg, elements);
+}
+
+void CheckSnaps(std::initializer_list<TSnapRow> rows) {
+    for (const TSnapRow& row : rows) {
+        const bool found = row.hit != NoPoint;
+        TKSLRef ref;
+        ref.Reset(true);
+        ref.lbX = row.last.bX, ref.lbY = row.last.bY;
+        EXPECT_EQ(row.item.CheckPoint(row.at.bX, row.at.bY, 300, row.snap, ref), found) << row.text;
+        EXPECT_EQ((TKSLPto{ref.bX, ref.bY}), row.hit) << row.text;
+        EXPECT_EQ(ref.link, found) << row.text;
+        EXPECT_EQ(ref.fType, row.type) << row.text;
+    }
+}
+
+} // namespace vagrel::test

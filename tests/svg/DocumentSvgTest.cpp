@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+// The frame of an SVG document, and what gets into it.
+#include <tests/support/TestHost.h>
+
+#include <host/HostItem.h>
+#include <vagrel/document/TVGRLayer.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/items/lines/TVGRBaseLine.h>
+#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/platform/Files.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace vagrel::test {
+namespace {
+
+using testing::HasSubstr;
+
+TEST(DocumentSvg, FrameFitsTheNumbersOfTheMode) {
+    TestHost label(emDrawing, unINCH, 50);
+    label.GetMeasure().SetLabelSizeMM(215.9f, 100);
+    const struct {
+        TKSLExportSVG mode;
+        const char* root;
+    } rows[] = {
+        {svCurrentUnit, R"(width="215.90mm" height="100mm" viewBox="0 0 215.90 100")"},
+        {svCurUnitNoMed, R"(width="215.90" height="100" viewBox="0 0 215.90 100")"},
+        {svFactor, R"(width="431.80mm" height="200mm" viewBox="0 0 431.80 200")"},
+        {svFactorPx, R"(width="431.80" height="200" viewBox="0 0 431.80 200")"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(label.SVG(row.mode, 2, false), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                                                 "<svg xmlns=\"http://www.w3.org/2000/svg\" " +
+                                                     std::string(row.root) + ">\n</svg>\n");
+}
+
+// Shares one definition with all of its kind.
+struct Marked : TVGRBaseLine {
+    using TVGRBaseLine::TVGRBaseLine;
+    void WriteSVG(TSVGOutput& out) const override {
+        if (!out.Defined("<g id=\"mark\">"))
+            out.defs.insert(out.defs.end(), {"<g id=\"mark\">", "</g>"});
+        out.svg.push_back("<use href=\"#mark\"/>");
+    }
+};
+
+TEST(DocumentSvg, DefinitionsStandInFront) {
+    TestHost label;
+    new HostItem<Marked>(label, false);
+    new HostItem<Marked>(label, false);
+    EXPECT_THAT(label.SVG(svCurrentUnit, 1, false), HasSubstr(">\n<defs>\n<g id=\"mark\">\n</g>\n</defs>\n"
+                                                              "<use href=\"#mark\"/>\n<use href=\"#mark\"/>\n</svg>"));
+}
+
+TEST(DocumentSvg, ItemsComeInPaintOrderWhenTheyShow) {
+    TestHost label;
+    TVGRLayer& back = label.AddLayer();
+    auto line = [&](std::u16string_view name) -> TVGRBaseItem& {
+        TVGRBaseItem& item = label.CreateLine(0, 0, 1000, 1000);
+        item.SetID(name);
+        return item;
+    };
+    auto order = [&] {
+        std::string names;
+        const std::string svg = label.SVG(svCurrentUnit, 1, true);
+        for (std::size_t at = svg.find(" id=\""); at != std::string::npos; at = svg.find(" id=\"", at + 1))
+            names += svg[at + 5];
+        return names;
+    };
+    line(u"a").SetLayer(back), line(u"b"), line(u"c");
+    EXPECT_EQ(order(), "abc");
+    label.SetLayerZOrder(true);
+    EXPECT_EQ(order(), "bca");
+    label.GetItem(2)->SetOptions({lopVisible, lopPrint});
+    EXPECT_EQ(order(), "ba");
+    back.SetOptions({lopExport});
+    EXPECT_EQ(order(), "b");
+}
+
+TEST(DocumentSvg, ARealDrawingSurvivesItsFile) {
+    TestHost label;
+    label.LoadFromFile(u"" VAGREL_SAMPLE);
+    EXPECT_GT(label.ItemsCount(), 200);
+    EXPECT_EQ(label.GetJson()->ToUtf8JSON(false), ReadFile(VAGREL_SAMPLE));
+}
+
+} // namespace
+} // namespace vagrel::test
