@@ -10,6 +10,7 @@
 #include <vagrel/persistence/TJsonObject.h>
 
 #include <algorithm>
+#include <limits>
 
 namespace vagrel {
 
