@@ -41,9 +41,9 @@ void AddRender(CLI::App& app) {
     command
         ->add_option("--mode", arguments->mode,
                      "unit (millimetres, the default), plain (no unit), factor (times F, millimetres) or px (times F)")
-        ->transform(CLI::CheckedTransformer(ExportNames).description(""));
+        ->transform(OneOf(ExportNames));
     command->add_option("--factor", arguments->factor, "the factor F of the modes factor and px")
-        ->check(CLI::Range(0.000001, 1000000.0).description(""));
+        ->check(Between(0.000001, 1000000));
     command->add_flag("--ids", arguments->ids, "give every element the identifier of its item");
     command->footer("Example: vagrel render label.json --mode px --factor 3.78 -o label.svg");
     command->callback([arguments] { Run(*arguments); });

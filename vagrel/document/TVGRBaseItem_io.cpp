@@ -17,6 +17,9 @@ namespace vagrel {
 
 namespace {
 
+// Leaves room for the numbers of items to come.
+constexpr std::int32_t HighestID = 1 << 30;
+
 bool HasFreePoints(TKSLItemType type) { return type == itPolyLine || type == itPolygon || type == itBezier; }
 
 } // namespace
@@ -50,6 +53,8 @@ std::unique_ptr<TJsonObject> TVGRBaseItem::WriteJson() const {
 
 void TVGRBaseItem::ReadJson(std::int32_t version, TJsonObject& json) {
     fInID = json.GetInt(u"InID");
+    if (fInID > HighestID)
+        throw EOutOfRange(u"InID: the number is out of range");
     fID = json.GetString(u"ID");
     fOwner.RaiseMaxID(fInID);
     fLayer = &fOwner.LayerAt(json.GetInt(u"Layer"));
