@@ -13,6 +13,8 @@
 #include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 
+#include <algorithm>
+
 namespace vagrel {
 
 namespace {
@@ -57,7 +59,7 @@ void TVGRBaseItem::ReadJson(std::int32_t version, TJsonObject& json) {
         throw EOutOfRange(u"InID: the number is out of range");
     fID = json.GetString(u"ID");
     fOwner.RaiseMaxID(fInID);
-    fLayer = &fOwner.LayerAt(json.GetInt(u"Layer"));
+    fLayer = &fOwner.LayerAt(std::min(json.GetInt(u"Layer"), fOwner.LayersCount()));
     if (fItemType != itSymbol) {
         fAngle = TKSLAngle(json.GetInt(u"Angle"));
         fColor = GetAlphaColor(json.GetObject(u"Color"));
