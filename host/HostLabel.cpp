@@ -98,8 +98,9 @@ void HostLabel::ReadDocument(TJsonObject& root) {
 
 void HostLabel::LoadFromFile(std::u16string_view filename) {
     const std::string name = ToUtf8(filename);
+    const std::string bytes = ReadFile(name);
     AtPlace(name, [&] {
-        const std::unique_ptr<TJsonObject> root = ParseDocument(ReadFile(name));
+        const std::unique_ptr<TJsonObject> root = ParseDocument(bytes);
         // A file that fails must not cost the document that stands here: another one tries it first. Only a document as
         // it was made spares the double work, since reading that one back restores it.
         HostLabel other;

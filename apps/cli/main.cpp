@@ -66,7 +66,7 @@ int Fail(int code, std::string_view message) {
 
 int Run(int argc, char** argv) {
     CLI::App app("Labels, flow diagrams and technical drawings from the command line.", "vagrel");
-    app.require_subcommand(1);
+    app.require_subcommand(0, 1); // none is told below, behind what was not understood
     app.set_version_flag("--version", "vagrel 0.1.0");
     app.footer("Examples:\n"
                "  vagrel new --mode drawing --units m --scale 50 --size 420x297 -o plan.json\n"
@@ -84,6 +84,8 @@ int Run(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return Fail(2, std::string(error.what()) + " (see vagrel --help)");
     }
+    if (app.get_subcommands().empty())
+        return Fail(2, "A command is missing: new, render or info (see vagrel --help)");
     return 0;
 }
 
