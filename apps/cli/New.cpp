@@ -79,12 +79,17 @@ void AddNew(CLI::App& app) {
     auto arguments = std::make_shared<TNew>();
     CLI::App* command = app.add_subcommand("new", "Write an empty document");
     command->add_option("--mode", arguments->mode, "labelling, flowchart, drawing or interactive")
-        ->transform(OneOf(ModeNames));
-    command->add_option("--units", arguments->units, "mm, inch, cm, dm, m, ft or yd")->transform(OneOf(UnitNames));
-    command->add_option("--scale", arguments->scale, "denominator N of the scale 1:N of a drawing")->check(CheckScale);
-    command->add_option("--size", arguments->size, "label size WxH in millimetres on paper");
-    command->add_option("-o,--output", arguments->out, "the file to write")->required();
-    command->footer("Example: vagrel new --mode drawing --units m --scale 50 --size 420x297 -o plan.json");
+        ->transform(OneOf(ModeNames))
+        ->type_name("NAME");
+    command->add_option("--units", arguments->units, "mm, inch, cm, dm, m, ft or yd")
+        ->transform(OneOf(UnitNames))
+        ->type_name("NAME");
+    command->add_option("--scale", arguments->scale, "denominator N of the scale 1:N of a drawing")
+        ->check(CheckScale)
+        ->type_name("N");
+    command->add_option("--size", arguments->size, "label size WxH in millimetres on paper")->type_name("WxH");
+    command->add_option("-o,--output", arguments->out, "the file to write")->required()->type_name("FILE");
+    command->footer("Example: vagrel new --mode drawing --units m --scale 50 --size 420x297 -o plan.json\n");
     command->callback([arguments] { Run(*arguments); });
 }
 

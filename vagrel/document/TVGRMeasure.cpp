@@ -368,7 +368,7 @@ void TVGRMeasure::ReadJson(std::int32_t, TJsonObject& json) {
     SetDiHor(float(json.GetFloat(u"RowGap")));
     SetDiVer(float(json.GetFloat(u"ColumnGap")));
     // Not through SetPaperName: the paper table would undo a sheet turned to landscape.
-    fPaperSize = std::int16_t(json.GetInt(u"PaperSize"));
+    fPaperSize = std::int16_t(std::clamp(json.GetInt(u"PaperSize"), -0x8000, 0x7FFF));
     fPaperName = json.GetString(u"PaperName");
     SetDrawScale(fOwner.HasDrawScale() ? json.GetLong(u"DrawScale") : 1);
     SetInnerCircle(float(json.GetFloat(u"InnerCircle")));
