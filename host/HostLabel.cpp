@@ -12,6 +12,9 @@
 #include <vagrel/persistence/TJsonObject.h>
 #include <vagrel/platform/Files.h>
 
+#include <cmath>
+#include <optional>
+
 namespace vagrel {
 
 namespace {
@@ -29,18 +32,32 @@ std::unique_ptr<TJsonObject> ParseDocument(const std::string& bytes) {
     return root;
 }
 
-// Closes the reading bracket whatever happens.
-class TReadScope {
-public:
-    explicit TReadScope(TVGRBaseLabel& label) : fLabel(label) { label.BeginRead(false); }
-    TReadScope(const TReadScope&) = delete;
-    TReadScope& operator=(const TReadScope&) = delete;
-    // Stored data that does not parse is found at the end of a read.
-    ~TReadScope() noexcept(false) { fLabel.EndRead(true); }
+// No length, whatever its unit, leaves the 64 bits of base units below this.
+constexpr double LargestNumber = 9.3e15;
 
-private:
-    TVGRBaseLabel& fLabel;
-};
+// The place of a number that nothing in a document can hold, for which the readers would take the nearest that fits.
+std::optional<std::string> FindAbsurd(const TJsonDataValue& value) {
+    const TJsonDataType typ = value.GetTyp();
+    if (typ == jdtULong || (typ == jdtFloat && !(std::fabs(value.GetFloatValue()) < LargestNumber)))
+        return "";
+    if (typ == jdtObject) {
+        for (auto [name, member] : *value.GetObjectValue())
+            if (const auto place = FindAbsurd(member))
+                return "." + ToUtf8(name) + *place;
+    } else if (typ == jdtArray) {
+        const TJsonArray& array = *value.GetArrayValue();
+        for (int i = 0; i < array.Count(); ++i)
+            if (const auto place = FindAbsurd(array.ItemAt(i)))
+                return "[" + std::to_string(i) + "]" + *place;
+    }
+    return {};
+}
+
+void CheckNumbers(const TJsonObject& root) {
+    for (auto [name, value] : root)
+        if (const auto place = FindAbsurd(value))
+            throw EOutOfRange(ToUtf8(name) + *place + ": the number is out of range");
+}
 
 } // namespace
 
@@ -48,8 +65,7 @@ HostLabel::HostLabel(TComponent* owner) : TVGRBaseLabel(owner) { Loaded(); }
 
 HostLabel::~HostLabel() { Teardown(); }
 
-void HostLabel::ReadDocument(TJsonObject& root) {
-    const TReadScope bracket(*this);
+void HostLabel::ReadParts(TJsonObject& root) {
     ReadJson(root);
     AtPlace("PrintInfo", [&] { GetPrintInfo().ReadJson(root.GetObject(u"PrintInfo")); });
     const std::int32_t version = root.GetInt(u"Version");
@@ -63,17 +79,40 @@ void HostLabel::ReadDocument(TJsonObject& root) {
     }
 }
 
+void HostLabel::ReadDocument(TJsonObject& root) {
+    CheckNumbers(root);
+    BeginRead(false);
+    try {
+        ReadParts(root);
+    } catch (...) {
+        // The bracket is closed whatever happens; the first fault is the one to tell.
+        try {
+            EndRead(true);
+        } catch (const EVagrel&) {
+        }
+        throw;
+    }
+    // What can still fail is the data text, which is parsed last.
+    AtPlace("Data: DataJson", [&] { EndRead(true); });
+}
+
 void HostLabel::LoadFromFile(std::u16string_view filename) {
     const std::string name = ToUtf8(filename);
+    const std::string bytes = ReadFile(name);
     AtPlace(name, [&] {
-        const std::unique_ptr<TJsonObject> root = ParseDocument(ReadFile(name));
-        // A file that fails must not cost the document that is open: another one tries it first.
-        if (ItemsCount() > 0 || GetModified())
-            HostLabel().ReadDocument(*root);
+        const std::unique_ptr<TJsonObject> root = ParseDocument(bytes);
+        // A file that fails must not cost the document that stands here: another one tries it first. Only a document as
+        // it was made spares the double work, since reading that one back restores it.
+        HostLabel other;
+        const std::unique_ptr<TJsonObject> blank = other.GetJson();
+        const bool untouched =
+            ItemsCount() == 0 && !GetModified() && GetJson()->ToUtf8JSON(true) == blank->ToUtf8JSON(true);
+        if (!untouched)
+            other.ReadDocument(*root);
         try {
             ReadDocument(*root);
         } catch (...) {
-            New();
+            ReadDocument(*blank);
             throw;
         }
     });
@@ -90,7 +129,12 @@ TVGRBaseItem& HostLabel::CreateElementFromStream(std::string_view snapshot) {
     TBinaryReader reader(snapshot);
     const auto version = reader.Read<std::int32_t>();
     TVGRBaseItem& item = MakeItem(*this, ActiveLayer(), TKSLItemType(reader.Read<std::int32_t>()), 0);
-    item.ReadData(version, reader, rdNormal);
+    try {
+        item.ReadData(version, reader, rdNormal);
+    } catch (...) {
+        FreeItem(item);
+        throw;
+    }
     return item;
 }
 

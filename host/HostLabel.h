@@ -16,11 +16,11 @@ public:
     ~HostLabel() override;
 
     /// Reads a JSON document. Throws EVagrel with the file and the place in it; the document that stood before is
-    /// untouched then, or empty when it was empty.
+    /// untouched then.
     void LoadFromFile(std::u16string_view filename) override;
     /// Writes the document whole or not at all. Throws EStreamError.
     void SaveToFile(std::u16string_view filename, TKSLExt format) override;
-    /// Reads a whole document from its tree, inside the reading bracket.
+    /// Reads a whole document from its tree. Throws EVagrel with the place; what was read until then stands.
     void ReadDocument(TJsonObject& root);
 
     TVGRBaseItem& CreateText(std::int64_t x, std::int64_t y) override;
@@ -72,6 +72,8 @@ public:
                    bool transparent, bool fit) override;
 
 private:
+    /// What stands between the brackets of a read.
+    void ReadParts(TJsonObject& root);
     /// An item on the active layer at the given points.
     TVGRBaseItem& Make(TKSLItemType type, const TKSLPtoA& points = {});
 };

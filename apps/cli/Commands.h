@@ -9,7 +9,8 @@
 
 namespace CLI {
 class App;
-}
+class Validator;
+} // namespace CLI
 
 namespace vagrel::cli {
 
@@ -21,6 +22,11 @@ void AddInfo(CLI::App& app);
 using TNames = std::vector<std::pair<std::string, int>>;
 extern const TNames ModeNames;
 extern const TNames UnitNames;
+
+/// Takes one of the names and hands on its number; the error lists the names.
+CLI::Validator OneOf(const TNames& names);
+/// Takes a finite number within limits.
+CLI::Validator Between(double low, double high);
 
 /// Writes to standard output. Throws EStreamError when that fails.
 void Print(std::string_view text);

@@ -5,6 +5,7 @@
 #include <host/HostLabel.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Exceptions.h>
+#include <vagrel/foundation/Numbers.h>
 #include <vagrel/foundation/Text.h>
 
 #include <CLI/CLI.hpp>
@@ -44,6 +45,11 @@ TSize ParseSize(const std::string& text) {
     throw CLI::ValidationError("--size", "\"" + text + "\" is no WxH with sides of 5 to 2000000 mm");
 }
 
+std::string CheckScale(const std::string& text) {
+    const auto scale = TryStrToInt64(FromUtf8(text));
+    return scale && *scale >= 1 ? "" : "\"" + text + "\" is no whole number from 1";
+}
+
 void Run(const TNew& arguments) {
     HostLabel label;
     label.SetEditorMode(TKSLEditorMode(arguments.mode));
@@ -59,7 +65,11 @@ void Run(const TNew& arguments) {
         throw CLI::ValidationError("--units", "labels and flow charts take mm, inch or cm");
     if (arguments.scale != 1 && !label.HasDrawScale())
         throw CLI::ValidationError("--scale", "only drawings and interactive documents have a scale");
-    measure.SetDrawScale(arguments.scale);
+    try {
+        measure.SetDrawScale(arguments.scale);
+    } catch (const EOutOfRange& error) {
+        throw CLI::ValidationError("--scale", error.what());
+    }
     label.SaveToFile(FromUtf8(arguments.out), lfJSON);
 }
 
@@ -69,14 +79,17 @@ void AddNew(CLI::App& app) {
     auto arguments = std::make_shared<TNew>();
     CLI::App* command = app.add_subcommand("new", "Write an empty document");
     command->add_option("--mode", arguments->mode, "labelling, flowchart, drawing or interactive")
-        ->transform(CLI::CheckedTransformer(ModeNames).description(""));
+        ->transform(OneOf(ModeNames))
+        ->type_name("NAME");
     command->add_option("--units", arguments->units, "mm, inch, cm, dm, m, ft or yd")
-        ->transform(CLI::CheckedTransformer(UnitNames).description(""));
+        ->transform(OneOf(UnitNames))
+        ->type_name("NAME");
     command->add_option("--scale", arguments->scale, "denominator N of the scale 1:N of a drawing")
-        ->check(CLI::PositiveNumber.description(""));
-    command->add_option("--size", arguments->size, "label size WxH in millimetres on paper");
-    command->add_option("-o,--output", arguments->out, "the file to write")->required();
-    command->footer("Example: vagrel new --mode drawing --units m --scale 50 --size 420x297 -o plan.json");
+        ->check(CheckScale)
+        ->type_name("N");
+    command->add_option("--size", arguments->size, "label size WxH in millimetres on paper")->type_name("WxH");
+    command->add_option("-o,--output", arguments->out, "the file to write")->required()->type_name("FILE");
+    command->footer("Example: vagrel new --mode drawing --units m --scale 50 --size 420x297 -o plan.json\n");
     command->callback([arguments] { Run(*arguments); });
 }
 

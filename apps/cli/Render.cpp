@@ -36,16 +36,18 @@ void Run(const TRender& arguments) {
 void AddRender(CLI::App& app) {
     auto arguments = std::make_shared<TRender>();
     CLI::App* command = app.add_subcommand("render", "Write a document as SVG");
-    command->add_option("FILE", arguments->file, "the document, JSON")->required();
-    command->add_option("-o,--output", arguments->out, "the SVG file; standard output without it");
+    command->add_option("FILE", arguments->file, "the document, JSON")->required()->type_name("");
+    command->add_option("-o,--output", arguments->out, "the SVG file; standard output without it")->type_name("FILE");
     command
         ->add_option("--mode", arguments->mode,
                      "unit (millimetres, the default), plain (no unit), factor (times F, millimetres) or px (times F)")
-        ->transform(CLI::CheckedTransformer(ExportNames).description(""));
+        ->transform(OneOf(ExportNames))
+        ->type_name("NAME");
     command->add_option("--factor", arguments->factor, "the factor F of the modes factor and px")
-        ->check(CLI::Range(0.000001, 1000000.0).description(""));
+        ->check(Between(0.000001, 1000000))
+        ->type_name("F");
     command->add_flag("--ids", arguments->ids, "give every element the identifier of its item");
-    command->footer("Example: vagrel render label.json --mode px --factor 3.78 -o label.svg");
+    command->footer("Example: vagrel render label.json --mode px --factor 3.78 -o label.svg\n");
     command->callback([arguments] { Run(*arguments); });
 }
 

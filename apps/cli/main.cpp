@@ -4,6 +4,8 @@
 
 #include <vagrel/foundation/Enumerations.h>
 #include <vagrel/foundation/Exceptions.h>
+#include <vagrel/foundation/Numbers.h>
+#include <vagrel/foundation/Text.h>
 
 #include <CLI/CLI.hpp>
 
@@ -18,6 +20,31 @@ const TNames ModeNames{
     {"labelling", emLabelling}, {"flowchart", emFlowChart}, {"drawing", emDrawing}, {"interactive", emInteractive}};
 const TNames UnitNames{{"mm", unMM}, {"inch", unINCH}, {"cm", unCM}, {"dm", unDM},
                        {"m", unM},   {"ft", unFt},     {"yd", unYd}};
+
+CLI::Validator OneOf(const TNames& names) {
+    auto take = [names](std::string& text) -> std::string {
+        std::string all;
+        for (const auto& [name, number] : names) {
+            if (name == text) {
+                text = std::to_string(number);
+                return {};
+            }
+            (all += all.empty() ? "" : ", ") += name;
+        }
+        return "\"" + text + "\" is none of " + all;
+    };
+    return CLI::Validator(take, "");
+}
+
+CLI::Validator Between(double low, double high) {
+    auto check = [low, high](std::string& text) -> std::string {
+        const auto value = TryStrToFloat(FromUtf8(text));
+        if (value && *value >= low && *value <= high)
+            return {};
+        return "\"" + text + "\" is no number from " + ToUtf8(FloatToStr(low)) + " to " + ToUtf8(FloatToStr(high));
+    };
+    return CLI::Validator(check, "");
+}
 
 void Print(std::string_view text) {
     const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
@@ -39,7 +66,7 @@ int Fail(int code, std::string_view message) {
 
 int Run(int argc, char** argv) {
     CLI::App app("Labels, flow diagrams and technical drawings from the command line.", "vagrel");
-    app.require_subcommand(1);
+    app.require_subcommand(0, 1); // none is told below, behind what was not understood
     app.set_version_flag("--version", "vagrel 0.1.0");
     app.footer("Examples:\n"
                "  vagrel new --mode drawing --units m --scale 50 --size 420x297 -o plan.json\n"
@@ -57,6 +84,8 @@ int Run(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return Fail(2, std::string(error.what()) + " (see vagrel --help)");
     }
+    if (app.get_subcommands().empty())
+        return Fail(2, "A command is missing: new, render or info (see vagrel --help)");
     return 0;
 }
 

@@ -13,9 +13,14 @@
 #include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 
+#include <algorithm>
+
 namespace vagrel {
 
 namespace {
+
+// Leaves room for the numbers of items to come.
+constexpr std::int32_t HighestID = 1 << 30;
 
 bool HasFreePoints(TKSLItemType type) { return type == itPolyLine || type == itPolygon || type == itBezier; }
 
@@ -50,9 +55,11 @@ std::unique_ptr<TJsonObject> TVGRBaseItem::WriteJson() const {
 
 void TVGRBaseItem::ReadJson(std::int32_t version, TJsonObject& json) {
     fInID = json.GetInt(u"InID");
+    if (fInID > HighestID)
+        throw EOutOfRange(u"InID: the number is out of range");
     fID = json.GetString(u"ID");
     fOwner.RaiseMaxID(fInID);
-    fLayer = &fOwner.LayerAt(json.GetInt(u"Layer"));
+    fLayer = &fOwner.LayerAt(std::min(json.GetInt(u"Layer"), fOwner.LayersCount()));
     if (fItemType != itSymbol) {
         fAngle = TKSLAngle(json.GetInt(u"Angle"));
         fColor = GetAlphaColor(json.GetObject(u"Color"));

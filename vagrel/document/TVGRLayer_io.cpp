@@ -9,6 +9,8 @@
 #include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 
+#include <algorithm>
+
 namespace vagrel {
 
 namespace {
@@ -101,7 +103,7 @@ void TVGRLayer::ReadJson(std::int32_t, TJsonObject& json) {
     fColor = GetAlphaColor(json.GetObject(u"Color"));
     fBackColor = GetAlphaColor(json.GetObject(u"BackColor"));
     fFill = json.GetBool(u"Fill");
-    fZPos = std::uint16_t(json.GetInt(u"ZPos"));
+    fZPos = std::uint16_t(std::clamp(json.GetInt(u"ZPos"), 0, 0xFFFF));
     TJsonObject& options = json.GetObject(u"Options");
     fOptions = {};
     for (const auto& [option, key] : OptionKeys)
@@ -112,7 +114,7 @@ void TVGRLayer::ReadJson(std::int32_t, TJsonObject& json) {
         TJsonObject& map = json.GetObject(u"Mapping");
         ReadPicture(map);
         fMapProvider = TKSLMapProvider(map.GetInt(u"Provider"));
-        fZoom = std::int16_t(map.GetInt(u"Zoom"));
+        fZoom = std::int16_t(std::clamp(map.GetInt(u"Zoom"), -0x8000, 0x7FFF));
         fLatitude = map.GetFloat(u"Latitude");
         fLongitude = map.GetFloat(u"Longitude");
         fShowMapCenter = map.GetBool(u"ShowMapCenter");

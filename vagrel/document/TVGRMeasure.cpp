@@ -150,6 +150,8 @@ void TVGRMeasure::SetLabelSizeMM(float width, float height) {
     const std::int32_t w = ToInt32(SetBaseValue(width)), h = ToInt32(SetBaseValue(height));
     if (w == fWidth && h == fHeight)
         return;
+    if (Linked())
+        ValidateDrawScaleForPaper(w, h);
     fWidth = w;
     fHeight = h;
     if (Linked()) {
@@ -215,6 +217,8 @@ void TVGRMeasure::SetLabelType(TVagrelType value) {
         fHeight = fWidth;
     else
         fInnerCircle = 0;
+    if (Linked()) // of a round label the paper turns square with it
+        fPaperHeight = fHeight;
     fOwner.GetBackSurf().DropUnfit();
     Modified(false);
 }
@@ -236,26 +240,28 @@ void TVGRMeasure::SetContinousPaper(bool value) {
 void TVGRMeasure::SetPaperName(std::u16string_view value) {
     if (value == fPaperName)
         return;
-    fPaperName = value;
-    if (fOwner.IsLoading())
+    if (fOwner.IsLoading()) {
+        fPaperName = value;
         return;
+    }
     float width = 0, height = 0;
     const std::int16_t code = GetPaperSize(value, width, height);
-    if (code >= 0) {
+    const bool sized = code >= 0 && code != UserPaper;
+    const std::int32_t w = Floored(SetBaseValue(width)), h = Floored(SetBaseValue(height));
+    if (sized)
+        ValidateDrawScaleForPaper(w, h);
+    fPaperName = value;
+    if (code >= 0)
         fPaperSize = code;
-        if (code != UserPaper) {
-            const std::int32_t w = Floored(SetBaseValue(width)), h = Floored(SetBaseValue(height));
-            ValidateDrawScaleForPaper(w, h);
-            fPaperWidth = w;
-            fPaperHeight = h;
-            if (Linked()) {
-                fWidth = w;
-                fHeight = h;
-                fOwner.ChangeValue(chMeasure);
-            }
+    if (sized) {
+        fPaperWidth = w;
+        fPaperHeight = h;
+        if (Linked()) {
+            fWidth = w;
+            fHeight = h;
         }
     }
-    Modified(false);
+    Modified(sized);
 }
 
 void TVGRMeasure::SetLabelName(std::u16string_view value) {
@@ -362,7 +368,7 @@ void TVGRMeasure::ReadJson(std::int32_t, TJsonObject& json) {
     SetDiHor(float(json.GetFloat(u"RowGap")));
     SetDiVer(float(json.GetFloat(u"ColumnGap")));
     // Not through SetPaperName: the paper table would undo a sheet turned to landscape.
-    fPaperSize = std::int16_t(json.GetInt(u"PaperSize"));
+    fPaperSize = std::int16_t(std::clamp(json.GetInt(u"PaperSize"), -0x8000, 0x7FFF));
     fPaperName = json.GetString(u"PaperName");
     SetDrawScale(fOwner.HasDrawScale() ? json.GetLong(u"DrawScale") : 1);
     SetInnerCircle(float(json.GetFloat(u"InnerCircle")));

@@ -5,8 +5,8 @@
 namespace vagrel {
 
 void TVGRMapping::Assign(const TVGRMapping& s) {
-    fMapProviders = s.fMapProviders, fProvider = s.fProvider, fCenter = s.fCenter, fMapApi = s.fMapApi;
-    fZoom = s.fZoom, fShowCenter = s.fShowCenter, fFileName = s.fFileName;
+    fProvider = s.fProvider, fCenter.Lat = s.fCenter.Lat, fCenter.Lon = s.fCenter.Lon;
+    fZoom = s.fZoom, fMapApi = s.fMapApi, fShowCenter = s.fShowCenter;
 }
 
 } // namespace vagrel

@@ -49,6 +49,7 @@ public:
     const std::u16string& GetFileName() const { return fFileName; }
     void SetFileName(std::u16string_view value) { fFileName = value; }
 
+    /// Copies provider, place, zoom and key; neither the pending image nor the providers that were used.
     void Assign(const TVGRMapping& source);
 
 private:

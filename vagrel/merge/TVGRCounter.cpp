@@ -51,7 +51,7 @@ void TVGRCounter::ReadJson(std::int32_t, TJsonObject& json) {
     SetNumFrom(json.GetLong(u"NumFrom"));
     SetNumTo(json.GetLong(u"NumTo"));
     SetStep(json.GetInt(u"Step"));
-    SetRepeat(std::int16_t(json.GetInt(u"Repeat")));
+    SetRepeat(std::int16_t(std::clamp(json.GetInt(u"Repeat"), 1, 0x7FFF)));
     fFormat = json.GetString(u"Format");
     fBefore = json.GetString(u"Before");
     fAfter = json.GetString(u"After");

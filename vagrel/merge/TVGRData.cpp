@@ -131,12 +131,6 @@ const TVGRDataItem* TVGRData::CsvSource() const {
     return last == fDatasets.rend() ? nullptr : &*last;
 }
 
-void TVGRData::ReplaceCsvSource(TVGRFields fields) {
-    if (const TVGRDataItem* old = CsvSource())
-        fDatasets.erase(fDatasets.begin() + (old - fDatasets.data()));
-    fDatasets.push_back({TVGRMsg::GetDialogsValue(u"CsvFile"), dtyCsv, std::move(fields), {}});
-}
-
 void TVGRData::WriteJson(TJsonObject& parent) const {
     TJsonObject& json = parent.AddObject(u"Data");
     json.SetInt(u"DataType", fType);
@@ -187,6 +181,11 @@ void TVGRData::ReadJson(std::int32_t, TJsonObject& json) {
     fCsvHeader = json.GetBool(u"CsvHeader");
     fCsvSep = TKSLCsvSep(json.GetInt(u"CsvSeparator"));
     fCsvQuote = TKSLCsvQuote(json.GetInt(u"CsvQuote"));
+    // Sources that stem from the texts of the document that stood here before go with it.
+    std::erase_if(fDatasets,
+                  [](const TVGRDataItem& source) { return source.fType == dtyJson || source.fType == dtyCsv; });
+    fListVal.clear();
+    fListAsk.clear();
     TVGRFields fields;
     TJsonArray& items = json.GetArray(u"CsvFields");
     for (int i = 0; i < items.Count(); ++i) {
@@ -195,16 +194,14 @@ void TVGRData::ReadJson(std::int32_t, TJsonObject& json) {
             {item.GetString(u"Name"), item.GetString(u"Caption"), TKSLFieldType(item.GetInt(u"FieldType"))});
     }
     if (!fields.empty())
-        ReplaceCsvSource(std::move(fields));
+        fDatasets.push_back({TVGRMsg::GetDialogsValue(u"CsvFile"), dtyCsv, std::move(fields), {}});
     if (fOwner.GetEditorMode() != emLabelling)
         return;
-    fListVal.clear();
     TJsonArray& lists = json.GetArray(u"ValList");
     for (int i = 0; i < lists.Count(); ++i) {
         TJsonObject& item = lists.GetObject(i);
         fListVal.push_back({item.GetString(u"Name"), {}, false, SplitLines(item.GetString(u"Values"))});
     }
-    fListAsk.clear();
     TJsonArray& questions = json.GetArray(u"ListAsk");
     for (int i = 0; i < questions.Count(); ++i) {
         TJsonObject& item = questions.GetObject(i);

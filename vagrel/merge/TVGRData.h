@@ -96,7 +96,6 @@ public:
 
 private:
     const TVGRDataItem* CsvSource() const;
-    void ReplaceCsvSource(TVGRFields fields);
 
     TVGRBaseLabel& fOwner;
     std::vector<TVGRDataItem> fDatasets;

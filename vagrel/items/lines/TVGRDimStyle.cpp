@@ -10,6 +10,7 @@
 #include <vagrel/persistence/TJsonObject.h>
 
 #include <algorithm>
+#include <limits>
 
 namespace vagrel {
 
@@ -112,7 +113,7 @@ void TVGRDimStyle::ReadFont(TJsonObject& font) {
 
 void TVGRDimStyle::ReadJson(std::int32_t, TJsonObject& json) {
     auto mm = [&](std::u16string_view key) { return float(json.GetFloat(key)); };
-    fID = std::int16_t(json.GetInt(u"ID"));
+    fID = std::int16_t(std::clamp(json.GetInt(u"ID"), -0x8000, 0x7FFF));
     fName = json.GetString(u"Name");
     fDimColor = GetAlphaColor(json.GetObject(u"DimColor"));
     fFillColor = GetAlphaColor(json.GetObject(u"FillColor"));
@@ -124,7 +125,7 @@ void TVGRDimStyle::ReadJson(std::int32_t, TJsonObject& json) {
     SetExtPenWidth(mm(u"ExtPenWidth"));
     fHeadType = TKSLTermType(json.GetInt(u"HeadType"));
     SetHeadSize(mm(u"HeadSize"));
-    SetArrowOpen(std::int16_t(json.GetInt(u"ArrowOpen")));
+    SetArrowOpen(std::int16_t(std::clamp(json.GetInt(u"ArrowOpen"), 4, 22)));
     ReadFont(json.GetObject(u"Font"));
     fTextPos = TKSLTextPos(json.GetInt(u"TextPos"));
     fRadialStyle = TKSLRadialStyle(json.GetInt(u"RadialStyle"));

@@ -1,0 +1,88 @@
+#!/bin/sh
+# SPDX-License-Identifier: MIT
+# The program from outside: exit codes, one line on standard error, targets that stay as they were.
+vagrel=$1
+folder=$(mktemp -d) && cd "$folder" || exit 1
+trap 'rm -rf "$folder"' EXIT
+failed=0
+
+fail() {
+    echo "FAILED: $*"
+    failed=1
+}
+
+# run CODE TEXT ARGUMENT...: the exit code, and a line of standard error that holds TEXT (none for exit code 0).
+run() {
+    code=$1 text=$2
+    shift 2
+    "$vagrel" "$@" >out 2>err
+    got=$?
+    [ $got -eq "$code" ] || fail "$*: exit code $got, not $code: $(cat err)"
+    [ "$(wc -l <err)" -eq $((code > 0)) ] || fail "$*: not one line: $(cat err)"
+    grep -qF -- "$text" err || [ "$code" -eq 0 ] || fail "$*: no \"$text\" in: $(cat err)"
+}
+
+for mode in labelling flowchart drawing interactive; do
+    run 0 '' new --mode $mode --units cm -o doc.json
+    run 0 '' info doc.json --json
+    grep -qF "\"Mode\": \"$mode\"" out || fail "info --json does not tell $mode"
+done
+run 0 '' new --mode drawing --units m --scale 50 --size 420x297 -o plan.json
+run 0 '' info plan.json
+grep -qF '420 x 297 mm (User)' out || fail "info does not tell the paper"
+for mode in unit plain factor px; do
+    run 0 '' render plan.json --mode $mode --factor 2 --ids -o plan.svg
+    run 0 '' render plan.json --mode $mode --factor 2 --ids
+    cmp -s out plan.svg || fail "standard output and file differ in the mode $mode"
+done
+run 0 '' render plan.json -o /dev/null
+run 0 '' --help
+
+# Wrong use.
+run 2 'command is missing'
+run 2 'nonsense' nonsense
+run 2 '--output' new
+run 2 '--loud' info plan.json --loud
+run 2 'labelling, flowchart, drawing, interactive' new --mode x -o no.json
+run 2 'mm, inch, cm, dm, m, ft, yd' new --units 2 -o no.json
+run 2 'unit, plain, factor, px' render plan.json --mode svg
+run 2 'mm, inch or cm' new --units m -o no.json
+run 2 'only drawings' new --scale 5 -o no.json
+run 2 'between 1:1 and 1:31055124703214' new --mode drawing --scale 31055124703215 -o no.json
+for scale in 0 -5 1.5 x 99999999999999999999; do
+    run 2 'whole number' new --mode drawing --scale $scale -o no.json
+done
+for size in 10 10x 4x10 nanxnan infx10 10x10x 1e9x10; do
+    run 2 "\"$size\"" new --size $size -o no.json
+done
+for factor in 0 -1 nan inf 1e300 x; do
+    run 2 'no number from' render plan.json --factor $factor
+done
+[ ! -e no.json ] || fail 'wrong use wrote a file'
+
+# Bad input; what stands at the target stays.
+echo keep >target
+run 1 'No such file' render none.json -o target
+run 1 'directory' info .
+printf '{"Items": [{"Type": 77}]}' >bad.json
+run 1 'bad.json: Items[0]: Unknown item type 77' render bad.json -o target
+printf '{"Data": {"SaveJson": true, "DataJson": "a\\nb"}, "Items": 5}' >bad.json
+run 1 'bad.json: Items' render bad.json -o target
+head -c 300 plan.json >bad.json
+run 1 'bad.json: ' render bad.json -o target
+[ "$(cat target)" = keep ] || fail 'a target was touched'
+mkdir out.svg
+run 1 'out.svg' render plan.json -o out.svg
+run 1 'none/out.svg' render plan.json -o none/out.svg
+run 1 '/dev/full' render plan.json -o /dev/full
+run 1 '/dev/full' new -o /dev/full
+[ -c /dev/full ] || fail '/dev/full was replaced'
+if "$vagrel" render plan.json >/dev/full 2>err; then fail 'a full standard output went unnoticed'; fi
+grep -qF 'standard output' err || fail "standard output is not named: $(cat err)"
+if [ "$(id -u)" -ne 0 ]; then
+    mkdir locked && chmod a-w locked target
+    run 1 'locked/out.svg' render plan.json -o locked/out.svg
+    run 1 'target' render plan.json -o target
+fi
+[ -z "$(find . -name '*.??????' ! -name '*.json' ! -name '*.svg')" ] || fail 'a temporary file stayed'
+exit $failed

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+// The reference host: what its factories make, and files that are good, bad or out of reach.
+#include <tests/support/TestHost.h>
+
+#include <vagrel/document/TVGRBaseItem.h>
+#include <vagrel/document/TVGRLayer.h>
+#include <vagrel/foundation/Exceptions.h>
+#include <vagrel/foundation/Text.h>
+#include <vagrel/persistence/TBinaryWriter.h>
+#include <vagrel/platform/Files.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace vagrel::test {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+
+class HostLabelTest : public testing::Test {
+protected:
+    HostLabelTest() { fs::create_directory(fFolder); }
+    ~HostLabelTest() override { fs::remove_all(fFolder); }
+
+    // What a load says that must fail.
+    std::string Refusal(TestHost& label, const std::string& text) {
+        WriteFile(Path("bad.json"), text);
+        try {
+            label.LoadFromFile(FromUtf8(Path("bad.json")));
+        } catch (const EVagrel& error) {
+            return error.what();
+        }
+        return "taken";
+    }
+    std::string Path(const std::string& name) const { return (fFolder / name).string(); }
+
+    const fs::path fFolder =
+        fs::path(testing::TempDir()) / testing::UnitTest::GetInstance()->current_test_info()->name();
+};
+
+TEST_F(HostLabelTest, FactoriesPlaceItemsOnTheActiveLayer) {
+    TestHost label;
+    label.AddLayer();
+    label.SetActiveLayer(2);
+    const std::pair<TVGRBaseItem&, TKSLPtoA> cases[] = {
+        {label.CreatePoint(1, 2), {{1, 2}}},
+        {label.CreatePolyLine({{1, 2}, {3, 4}, {5, 6}}), {{1, 2}, {3, 4}, {5, 6}}},
+        {label.CreateRectangle(1, 2, 10, 20), {{1, 2}, {11, 22}}},
+        {label.CreateCircle({100, 200}, 50), {{50, 150}, {150, 250}}},
+        {label.CreateCircle2P({0, 0}, {100, 0}), {{0, -50}, {100, 50}}},
+        {label.CreateCircle3P({0, 0}, {50, 50}, {100, 0}), {{0, -50}, {100, 50}}},
+        {label.CreateEllipse({0, 0}, 30, 20), {{-30, -20}, {30, 20}}},
+        {label.CreateSector({0, 0}, 40, 0, 90), {{-40, -40}, {40, 40}}},
+    };
+    for (const auto& [item, points] : cases) {
+        SCOPED_TRACE(ToUtf8(item.GetID()));
+        EXPECT_EQ(&item.GetLayer(), &label.GetLayer(2));
+        ASSERT_EQ(std::size_t(item.NumPoints()), points.size());
+        for (int i = 1; i <= item.NumPoints(); ++i)
+            EXPECT_EQ(item.GetPoint(i), points[std::size_t(i - 1)]) << i;
+    }
+}
+
+TEST_F(HostLabelTest, AFactoryThatThrowsLeavesNoItem) {
+    TestHost label;
+    TBinaryWriter snapshot;
+    snapshot.Write(std::int32_t(3200));
+    label.CreateLine(1, 2, 3, 4).WriteData(snapshot);
+    const std::string bytes = snapshot.Take();
+    EXPECT_EQ(label.CreateElementFromStream(bytes).GetPoint(2), (TKSLPto{3, 4}));
+    for (std::size_t length = 0; length < bytes.size(); ++length)
+        EXPECT_THROW(label.CreateElementFromStream(std::string_view(bytes).substr(0, length)), EStreamError) << length;
+    EXPECT_THROW(label.CreateCircle3P({0, 0}, {1, 1}, {2, 2}), EInvalidOperation);
+    EXPECT_THROW(label.CreateSymbol(0, 0), ENotAvailable);
+    EXPECT_EQ(label.ItemsCount(), 2);
+}
+
+TEST_F(HostLabelTest, BadFilesAreRefusedWithTheirPlace) {
+    struct TCase {
+        const char* what;
+        const char* text;
+        const char* told;
+    };
+    const TCase cases[] = {
+        {"empty", "", "empty"},
+        {"array", "[]", "Not a JSON document"},
+        {"truncated", "{\"Version\": 3200, \"Items\": [", "(1, 29)"},
+        {"text for an object", "{\"Measures\": \"wide\"}", "Measures: Cannot cast String into Object"},
+        {"word for a number", "{\"Measures\": {\"Rows\": \"many\"}}", "Measures: 'many'"},
+        {"object for a list", "{\"Layers\": {}}", "Layers: Cannot cast Object into Array"},
+        {"number for a layer", "{\"Layers\": [{}, 5]}", "Layers[1]: Cannot cast"},
+        {"no Base64",
+         "{\"Layers\": [{\"Options\": {\"Map\": true}, \"Mapping\": {\"Embeded\": true, \"Img\": \"*\"}}]}",
+         "Layers[0]: Not Base64"},
+        {"unknown type", "{\"Items\": [{\"Type\": 1}, {\"Type\": -7}]}", "Items[1]: Unknown item type -7"},
+        {"type to come", "{\"Items\": [{\"Type\": 24}]}", "Items[0]: Items of type 24 (Symbol) are not available yet"},
+        {"huge coordinate", "{\"Items\": [{\"Type\": 1, \"Points\": [{\"X\": 1e308}]}]}", "Items[0].Points[0].X: "},
+        {"2^63", "{\"Measures\": {\"LabelWidth\": 9223372036854775808}}", "Measures.LabelWidth: "},
+        {"huge number of an item", "{\"Items\": [{\"Type\": 1, \"InID\": 2147483647}]}", "Items[0]: InID"},
+        {"negative scale", "{\"EditorMode\": 2, \"Measures\": {\"DrawScale\": -1}}", "Measures: Drawing scale"},
+        {"bad data", "{\"Data\": {\"SaveJson\": true, \"DataJson\": \"{\\\"a\\\": [}\"}}", "Data: DataJson: "},
+        {"bad data and bad item", "{\"Data\": {\"SaveJson\": true, \"DataJson\": \"none\"}, \"Items\": [5]}",
+         "Items[0]: Cannot cast"},
+    };
+    TestHost blank, empty(emDrawing, unM, 50), full(emDrawing, unINCH, 20);
+    empty.SetModified(false); // has settings to lose all the same
+    const std::u16string emptyBefore = JsonOf(empty);
+    full.AddLayer();
+    TVGRBaseItem& line = full.CreateLine(1, 2, 3, 4);
+    full.AddToSelection(line, false);
+    const std::u16string before = JsonOf(full);
+    for (const TCase& test : cases) {
+        SCOPED_TRACE(test.what);
+        for (TestHost* label : {&blank, &empty, &full}) {
+            const std::string told = Refusal(*label, test.text);
+            EXPECT_TRUE(told.starts_with(Path("bad.json") + ": ")) << told;
+            EXPECT_THAT(told, HasSubstr(test.told));
+            EXPECT_EQ(told.find('\n'), std::string::npos);
+            EXPECT_FALSE(label->HasAnyState({lsReading, lsUpdating}));
+        }
+        EXPECT_EQ(JsonOf(blank), JsonOf(TestHost()));
+        EXPECT_EQ(JsonOf(empty), emptyBefore);
+        ASSERT_EQ(JsonOf(full), before);
+        ASSERT_EQ(full.GetSelection(1), &line) << "not one that looks the same";
+    }
+    EXPECT_TRUE(full.GetModified());
+}
+
+TEST_F(HostLabelTest, FilesOutOfReach) {
+    TestHost label;
+    WriteFile(Path("file"), "keep");
+    fs::create_directory(Path("folder"));
+    fs::create_symlink("file", Path("link"));
+    for (const std::string& name : {Path("none.json"), Path("folder"), std::string()})
+        EXPECT_THROW(label.LoadFromFile(FromUtf8(name)), EStreamError) << name;
+    label.SetModified(true);
+    for (const std::string& name :
+         {Path("folder"), Path("none/out.json"), Path("file/out.json"), std::string("/dev/full"), std::string()})
+        EXPECT_THROW(label.SaveToFile(FromUtf8(name), lfJSON), EStreamError) << name;
+    EXPECT_TRUE(label.GetModified());
+    EXPECT_TRUE(fs::is_character_file("/dev/full"));
+    EXPECT_EQ(ReadFile(Path("file")), "keep");
+    EXPECT_EQ(std::distance(fs::directory_iterator(fFolder), {}), 3) << "a temporary file stayed";
+
+    label.SaveToFile(FromUtf8(Path("link")), lfJSON);
+    EXPECT_TRUE(fs::is_symlink(Path("link"))) << "what it points to is replaced";
+    EXPECT_EQ(ReadFile(Path("file")), ToUtf8(JsonOf(label)));
+    EXPECT_FALSE(label.GetModified());
+}
+
+} // namespace
+} // namespace vagrel::test
