@@ -19,17 +19,26 @@ namespace vagrel {
 
 namespace {
 
-// The root object of a JSON document.
-std::unique_ptr<TJsonObject> ParseDocument(const std::string& bytes) {
-    const std::size_t start = bytes.starts_with("\xEF\xBB\xBF") ? 3 : 0;
-    const std::size_t first = bytes.find_first_not_of(" \t\r\n", start);
-    if (first == std::string::npos)
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
+std::string_view WithoutMark(std::string_view bytes) {
+    return bytes.starts_with(ByteOrderMark) ? bytes.substr(ByteOrderMark.size()) : bytes;
+}
+
+// A document is JSON when its first character is an opening brace.
+bool IsJson(std::string_view bytes) {
+    bytes = WithoutMark(bytes);
+    const std::size_t first = bytes.find_first_not_of(" \t\r\n");
+    if (first == std::string_view::npos)
         throw EVagrel(u"The file is empty");
-    if (bytes[first] != '{')
-        throw EVagrel(u"Not a JSON document; binary documents are not available yet");
-    auto root = std::make_unique<TJsonObject>();
-    root->ParseUtf8(std::string_view(bytes).substr(start));
-    return root;
+    return bytes[first] == '{';
+}
+
+// The binary form has no mark of its own, but it begins with a version of four digits.
+void CheckBinary(std::string_view bytes) {
+    const auto version = bytes.size() < 4 ? 0 : TBinaryReader(bytes).Read<std::int32_t>();
+    if (version < 1000 || version > 9999)
+        throw EVagrel(u"Not a document: neither JSON nor the binary form");
 }
 
 // No length, whatever its unit, leaves the 64 bits of base units below this.
@@ -79,11 +88,23 @@ void HostLabel::ReadParts(TJsonObject& root) {
     }
 }
 
-void HostLabel::ReadDocument(TJsonObject& root) {
-    CheckNumbers(root);
+void HostLabel::ReadBlocks(TBinaryReader& reader) {
+    ReadBaseData(reader);
+    ReadData(reader);
+    if (reader.Read<std::int32_t>() > 0)
+        throw ENotAvailable(u"Symbols are not available yet");
+    const auto count = reader.Read<std::int32_t>();
+    for (std::int32_t i = 0; i < count; ++i)
+        AtPlace("Items[" + std::to_string(i) + "]", [&] {
+            const auto type = TKSLItemType(reader.Read<std::int32_t>());
+            MakeItem(*this, GetLayer(1), type, 0).ReadData(GetReadedVersion(), reader, rdNormal);
+        });
+}
+
+void HostLabel::ReadBracket(const std::function<void()>& read) {
     BeginRead(false);
     try {
-        ReadParts(root);
+        read();
     } catch (...) {
         // The bracket is closed whatever happens; the first fault is the one to tell.
         try {
@@ -96,11 +117,27 @@ void HostLabel::ReadDocument(TJsonObject& root) {
     AtPlace("Data: DataJson", [&] { EndRead(true); });
 }
 
+void HostLabel::ReadDocument(TJsonObject& root) {
+    CheckNumbers(root);
+    ReadBracket([&] { ReadParts(root); });
+}
+
+void HostLabel::ReadDocument(std::string_view bytes) {
+    if (IsJson(bytes)) {
+        TJsonObject root;
+        root.ParseUtf8(WithoutMark(bytes));
+        ReadDocument(root);
+    } else {
+        CheckBinary(bytes);
+        TBinaryReader reader(bytes);
+        ReadBracket([&] { ReadBlocks(reader); });
+    }
+}
+
 void HostLabel::LoadFromFile(std::u16string_view filename) {
     const std::string name = ToUtf8(filename);
     const std::string bytes = ReadFile(name);
     AtPlace(name, [&] {
-        const std::unique_ptr<TJsonObject> root = ParseDocument(bytes);
         // A file that fails must not cost the document that stands here: another one tries it first. Only a document as
         // it was made spares the double work, since reading that one back restores it.
         HostLabel other;
@@ -108,9 +145,9 @@ void HostLabel::LoadFromFile(std::u16string_view filename) {
         const bool untouched =
             ItemsCount() == 0 && !GetModified() && GetJson()->ToUtf8JSON(true) == blank->ToUtf8JSON(true);
         if (!untouched)
-            other.ReadDocument(*root);
+            other.ReadDocument(bytes);
         try {
-            ReadDocument(*root);
+            ReadDocument(bytes);
         } catch (...) {
             ReadDocument(*blank);
             throw;
@@ -118,10 +155,19 @@ void HostLabel::LoadFromFile(std::u16string_view filename) {
     });
 }
 
+std::string HostLabel::ToBinary() const {
+    TBinaryWriter writer;
+    WriteBaseData(writer);
+    WriteData(writer);
+    writer.Write(std::int32_t(SymbolCount()));
+    writer.Write(std::int32_t(ItemsCount()));
+    for (int i = 1; i <= ItemsCount(); ++i)
+        GetItem(i)->WriteData(writer);
+    return writer.Take();
+}
+
 void HostLabel::SaveToFile(std::u16string_view filename, TKSLExt format) {
-    if (format != lfJSON)
-        throw ENotAvailable(u"Binary documents are not available yet");
-    WriteFile(ToUtf8(filename), GetJson()->ToUtf8JSON(false));
+    WriteFile(ToUtf8(filename), format == lfJSON ? GetJson()->ToUtf8JSON(false) : ToBinary());
     SetModified(false);
 }
 

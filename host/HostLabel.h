@@ -15,13 +15,17 @@ public:
     explicit HostLabel(TComponent* owner = nullptr);
     ~HostLabel() override;
 
-    /// Reads a JSON document. Throws EVagrel with the file and the place in it; the document that stood before is
-    /// untouched then.
+    /// Reads a document, JSON or binary by its first character. Throws EVagrel with the file and the place in it; the
+    /// document that stood before is untouched then.
     void LoadFromFile(std::u16string_view filename) override;
     /// Writes the document whole or not at all. Throws EStreamError.
     void SaveToFile(std::u16string_view filename, TKSLExt format) override;
-    /// Reads a whole document from its tree. Throws EVagrel with the place; what was read until then stands.
+    /// Reads a whole document from its tree or from the bytes of a file. Throws EVagrel with the place; what was read
+    /// until then stands.
     void ReadDocument(TJsonObject& root);
+    void ReadDocument(std::string_view bytes);
+    /// The bytes of the binary file: the document's blocks, then the counted symbols, then the counted items.
+    std::string ToBinary() const;
 
     TVGRBaseItem& CreateText(std::int64_t x, std::int64_t y) override;
     TVGRBaseItem& CreatePara(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) override;
@@ -74,6 +78,8 @@ public:
 private:
     /// What stands between the brackets of a read.
     void ReadParts(TJsonObject& root);
+    void ReadBlocks(TBinaryReader& reader);
+    void ReadBracket(const std::function<void()>& read);
     /// An item on the active layer at the given points.
     TVGRBaseItem& Make(TKSLItemType type, const TKSLPtoA& points = {});
 };

@@ -133,7 +133,7 @@ void Run(const TInfo& arguments) {
 void AddInfo(CLI::App& app) {
     auto arguments = std::make_shared<TInfo>();
     CLI::App* command = app.add_subcommand("info", "Tell mode, units, scale, page, layers, items by type and bounds");
-    command->add_option("FILE", arguments->file, "the document, JSON")->required()->type_name("");
+    command->add_option("FILE", arguments->file, "the document")->required()->type_name("");
     command->add_flag("--json", arguments->json, "as JSON");
     command->footer("Example: vagrel info label.json\n");
     command->callback([arguments] { Run(*arguments); });

@@ -36,7 +36,7 @@ void Run(const TRender& arguments) {
 void AddRender(CLI::App& app) {
     auto arguments = std::make_shared<TRender>();
     CLI::App* command = app.add_subcommand("render", "Write a document as SVG");
-    command->add_option("FILE", arguments->file, "the document, JSON")->required()->type_name("");
+    command->add_option("FILE", arguments->file, "the document")->required()->type_name("");
     command->add_option("-o,--output", arguments->out, "the SVG file; standard output without it")->type_name("FILE");
     command
         ->add_option("--mode", arguments->mode,

@@ -77,6 +77,7 @@ int Run(int argc, char** argv) {
     AddNew(app);
     AddRender(app);
     AddInfo(app);
+    AddConvert(app);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& success) {

@@ -60,6 +60,14 @@ for factor in 0 -1 nan inf 1e300 x; do
 done
 [ ! -e no.json ] || fail 'wrong use wrote a file'
 
+# Both forms, there and back.
+run 0 '' convert plan.json plan.vgr
+run 0 '' convert plan.vgr back.json
+cmp -s plan.json back.json || fail 'converting there and back changed the document'
+run 2 '.vgr' convert plan.json plan.txt
+head -c 100 plan.vgr >short.vgr
+run 1 'short.vgr: unexpected end' info short.vgr
+
 # Bad input; what stands at the target stays.
 echo keep >target
 run 1 'No such file' render none.json -o target

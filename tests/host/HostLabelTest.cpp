@@ -86,7 +86,7 @@ TEST_F(HostLabelTest, BadFilesAreRefusedWithTheirPlace) {
     };
     const TCase cases[] = {
         {"empty", "", "empty"},
-        {"array", "[]", "Not a JSON document"},
+        {"array", "[]", "Not a document"},
         {"truncated", "{\"Version\": 3200, \"Items\": [", "(1, 29)"},
         {"text for an object", "{\"Measures\": \"wide\"}", "Measures: Cannot cast String into Object"},
         {"word for a number", "{\"Measures\": {\"Rows\": \"many\"}}", "Measures: 'many'"},

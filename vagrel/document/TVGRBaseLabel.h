@@ -22,6 +22,8 @@
 namespace vagrel {
 
 class IKSLText;
+class TBinaryReader;
+class TBinaryWriter;
 class TJsonObject;
 class TVGRBackSurf;
 class TVGRBaseItem;
@@ -256,6 +258,13 @@ public:
     std::u16string GetJsonString(bool compact) const;
     /// Reads everything but "PrintInfo" and "Items", which the host reads.
     void ReadJson(TJsonObject& json);
+    /// The first block of the binary form: version, mode, units, angle and the sub-objects.
+    void WriteBaseData(TBinaryWriter& writer) const;
+    /// Stores what the block holds, with no setter. Throws EStreamError at the end of the data.
+    void ReadBaseData(TBinaryReader& reader);
+    /// The second block: layers, dimension styles, counters. The host's symbols and items follow it.
+    void WriteData(TBinaryWriter& writer) const;
+    void ReadData(TBinaryReader& reader);
     /// The document as an SVG text in UTF-8.
     std::string SVG(TKSLExportSVG type, float factor, bool attrID) const;
     /// Writes the same text to a file, whole or not at all. Throws EStreamError.
@@ -368,6 +377,10 @@ private:
     void AddBaseStyle();
     /// Frees the layer at a zero-based position. Its items go to the base layer, those of the base layer to the next.
     void FreeLayer(std::size_t position);
+    /// Makes room for a file of this mode.
+    void ClearForRead(TKSLEditorMode mode);
+    /// Ends what stood in for the layers and styles of the file.
+    void DropStandIns();
     bool IsLargeUnit() const { return fUnits >= unDM && fUnits <= unYd; }
     void SelectOnly(TVGRBaseItem& item, TKSChange change);
     void FillBoxTexts();

@@ -9,6 +9,7 @@
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/document/TVGRSettings.h>
+#include <vagrel/document/Versions_p.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/items/lines/TVGRDimStyle.h>
@@ -21,9 +22,6 @@
 namespace vagrel {
 
 namespace {
-
-constexpr std::int32_t CurrentVersion = 3200;
-constexpr std::int32_t AngleVersion = 3100;
 
 // Constructs one element for each object of an array. An element adds itself to the document.
 template <class T>
@@ -72,12 +70,23 @@ std::unique_ptr<TJsonObject> TVGRBaseLabel::GetJson() const {
 
 std::u16string TVGRBaseLabel::GetJsonString(bool compact) const { return GetJson()->ToJSON(compact); }
 
-void TVGRBaseLabel::ReadJson(TJsonObject& json) {
+void TVGRBaseLabel::ClearForRead(TKSLEditorMode mode) {
     Clear({cleItems, cleLayers, cleBaseLayer, cleCounters, cleSymbols, cleUndoRedo, cleDimStyles}, true);
-    const std::int32_t version = json.GetInt(u"Version");
-    fEditorMode = TKSLEditorMode(json.GetInt(u"EditorMode"));
+    fEditorMode = mode;
     if (HasDrawScale())
         Clear({cleBaseStyle}, true);
+}
+
+void TVGRBaseLabel::DropStandIns() {
+    if (fLayers.size() > 1)
+        FreeLayer(0);
+    if (HasDrawScale() && fDimStyles.size() > 1)
+        detail::TakeOut(fDimStyles, 0);
+}
+
+void TVGRBaseLabel::ReadJson(TJsonObject& json) {
+    const std::int32_t version = json.GetInt(u"Version");
+    ClearForRead(TKSLEditorMode(json.GetInt(u"EditorMode")));
     fUnits = TKSLUnits(json.GetInt(u"Units"));
     fAngle = version >= AngleVersion ? TKSLAngle(json.GetInt(u"Angle")) : ag0;
     // Sizes must not be tested against the scale of the document that stood here before.
@@ -89,13 +98,9 @@ void TVGRBaseLabel::ReadJson(TJsonObject& json) {
     if (json.GetArray(u"Symbols").Count() > 0)
         throw ENotAvailable(u"Symbols: symbols are not available yet");
     ReadElements<TVGRLayer>(*this, version, json, u"Layers");
-    // What stood in for the layers and styles of the file goes.
-    if (fLayers.size() > 1)
-        FreeLayer(0);
     if (HasDrawScale())
         ReadElements<TVGRDimStyle>(*this, version, json, u"DimStyles");
-    if (fDimStyles.size() > 1)
-        detail::TakeOut(fDimStyles, 0);
+    DropStandIns();
     ReadElements<TVGRCounter>(*this, version, json, u"Counters");
 }
 

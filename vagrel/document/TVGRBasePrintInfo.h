@@ -11,6 +11,8 @@
 
 namespace vagrel {
 
+class TBinaryReader;
+class TBinaryWriter;
 class TJsonObject;
 class TVGRBaseLabel;
 
@@ -54,6 +56,8 @@ public:
 
     void WriteJson(TJsonObject& parent) const;
     void ReadJson(TJsonObject& json);
+    void WriteData(TBinaryWriter& writer) const;
+    void ReadData(std::int32_t version, TBinaryReader& reader);
 
 protected:
     TVGRBaseLabel& fOwner;

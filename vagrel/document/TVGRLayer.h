@@ -11,6 +11,8 @@
 
 namespace vagrel {
 
+class TBinaryReader;
+class TBinaryWriter;
 class TJsonArray;
 class TJsonObject;
 class TVGRBaseItem;
@@ -110,6 +112,8 @@ public:
 
     void WriteJson(TJsonArray& layers) const;
     void ReadJson(std::int32_t version, TJsonObject& json);
+    void WriteData(TBinaryWriter& writer) const;
+    void ReadData(std::int32_t version, TBinaryReader& reader);
 
 private:
     template <class Action>
@@ -119,6 +123,10 @@ private:
     float Restricted(std::int32_t base) const;
     void StoreMargin(std::int32_t& field, float value, TKSLMeasureType limit);
     void WritePicture(TJsonObject& json) const;
+    void WriteBytes(TBinaryWriter& writer) const;
+    void ReadBytes(TBinaryReader& reader);
+    void WritePictureData(TBinaryWriter& writer) const;
+    void ReadPictureData(TBinaryReader& reader);
     void WriteMargins(TJsonObject& json) const;
     void ReadPicture(TJsonObject& json);
 

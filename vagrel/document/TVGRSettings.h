@@ -8,6 +8,8 @@
 
 namespace vagrel {
 
+class TBinaryReader;
+class TBinaryWriter;
 class TJsonObject;
 class TVGRBaseLabel;
 
@@ -35,6 +37,8 @@ public:
 
     void WriteJson(TJsonObject& parent) const;
     void ReadJson(std::int32_t version, TJsonObject& json);
+    void WriteData(TBinaryWriter& writer) const;
+    void ReadData(std::int32_t version, TBinaryReader& reader);
 
 private:
     TVGRBaseLabel& fOwner;

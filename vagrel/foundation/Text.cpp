@@ -2,6 +2,8 @@
 // Conversions between UTF-16 and UTF-8, and the few text operations that the library needs.
 #include <vagrel/foundation/Text.h>
 
+#include <algorithm>
+
 namespace vagrel {
 
 namespace {
@@ -158,6 +160,27 @@ std::u16string ReplaceAll(std::u16string_view text, std::u16string_view from, st
         out += to;
         pos = hit + from.size();
     }
+}
+
+std::u16string JoinLines(const std::vector<std::u16string>& lines) {
+    std::u16string text;
+    for (const std::u16string& line : lines)
+        (text += line) += u'\n';
+    return text;
+}
+
+std::vector<std::u16string> SplitLines(std::u16string_view text) {
+    std::vector<std::u16string> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find_first_of(u"\r\n"), text.size());
+        lines.emplace_back(text.substr(0, end));
+        text.remove_prefix(end);
+        if (text.starts_with(u"\r\n"))
+            text.remove_prefix(2);
+        else if (!text.empty())
+            text.remove_prefix(1);
+    }
+    return lines;
 }
 
 std::u16string IntToStr(std::int64_t value) { return IntToStr(value, 1); }

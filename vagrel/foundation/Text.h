@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vagrel {
 
@@ -33,6 +34,12 @@ std::u16string_view Trim(std::u16string_view text);
 
 /// Every occurrence of `from`, which is not empty, replaced by `to`.
 std::u16string ReplaceAll(std::u16string_view text, std::u16string_view from, std::u16string_view to);
+
+/// One line a text, each with a line feed behind it.
+std::u16string JoinLines(const std::vector<std::u16string>& lines);
+
+/// The lines of a text. They end in CR, LF or CR LF; the last one needs no end.
+std::vector<std::u16string> SplitLines(std::u16string_view text);
 
 /// Decimal text of an integer.
 std::u16string IntToStr(std::int64_t value);

@@ -8,6 +8,8 @@
 
 namespace vagrel {
 
+class TBinaryReader;
+class TBinaryWriter;
 class TJsonArray;
 class TJsonObject;
 class TVGRBaseLabel;
@@ -46,6 +48,8 @@ public:
 
     void WriteJson(TJsonArray& counters) const;
     void ReadJson(std::int32_t version, TJsonObject& json);
+    void WriteData(TBinaryWriter& writer) const;
+    void ReadData(std::int32_t version, TBinaryReader& reader);
 
 private:
     TVGRBaseLabel& fOwner;

@@ -60,28 +60,6 @@ std::vector<TVGRDetailItem> DetailsOf(TJsonObject& record) {
     return details;
 }
 
-std::u16string JoinLines(const std::vector<std::u16string>& lines) {
-    std::u16string text;
-    for (const std::u16string& line : lines)
-        (text += line) += u'\n';
-    return text;
-}
-
-// Lines end in CR, LF or CR LF; the last one needs no end.
-std::vector<std::u16string> SplitLines(std::u16string_view text) {
-    std::vector<std::u16string> lines;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find_first_of(u"\r\n"), text.size());
-        lines.emplace_back(text.substr(0, end));
-        text.remove_prefix(end);
-        if (text.starts_with(u"\r\n"))
-            text.remove_prefix(2);
-        else if (!text.empty())
-            text.remove_prefix(1);
-    }
-    return lines;
-}
-
 } // namespace
 
 TVGRData::TVGRData(TVGRBaseLabel& owner) : fOwner(owner) {}

@@ -12,6 +12,8 @@
 
 namespace vagrel {
 
+class TBinaryReader;
+class TBinaryWriter;
 class TJsonObject;
 class TVGRBaseLabel;
 
@@ -93,6 +95,8 @@ public:
 
     void WriteJson(TJsonObject& parent) const;
     void ReadJson(std::int32_t version, TJsonObject& json);
+    void WriteData(TBinaryWriter& writer) const;
+    void ReadData(std::int32_t version, TBinaryReader& reader);
 
 private:
     const TVGRDataItem* CsvSource() const;

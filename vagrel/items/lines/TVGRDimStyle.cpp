@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Rules and JSON form of dimension styles.
+// Rules and file forms of dimension styles.
 #include <vagrel/items/lines/TVGRDimStyle.h>
 
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Units.h>
 #include <vagrel/persistence/JsonColors.h>
+#include <vagrel/persistence/TBinaryWriter.h>
 #include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 
@@ -137,6 +138,58 @@ void TVGRDimStyle::ReadJson(std::int32_t, TJsonObject& json) {
     fPrefix = json.GetString(u"Prefix");
     fSuffix = json.GetString(u"Suffix");
     fUnit = TKSLUnits(json.GetInt(u"Unit"));
+}
+
+void TVGRDimStyle::WriteData(TBinaryWriter& writer) const {
+    writer.Write(fID);
+    writer.Write(fName);
+    for (TAlphaColor color : {fDimColor, fFillColor, fExtColor, fHeadColor})
+        writer.Write(color);
+    writer.Write(std::int16_t(fDimLineType));
+    writer.Write(std::int16_t(fExtLineType));
+    writer.Write(std::int16_t(fHeadType));
+    writer.Write(fHeadSize);
+    writer.Write(fArrowOpen);
+    writer.Write(fDimPenWidth);
+    writer.Write(fExtPenWidth);
+    for (bool flag : {fBold, fItalic, fUnderline, fStrikeout})
+        writer.Write(flag);
+    writer.Write(fFontHeight);
+    writer.Write(fFontName);
+    writer.Write(fFontColor);
+    writer.Write(std::int16_t(fTextPos));
+    writer.Write(std::int16_t(fRadialStyle));
+    for (std::int32_t length : {fDimBreak, fDimSpace, fExtSize, fExtGap})
+        writer.Write(length);
+    for (const std::u16string* text : {&fFormat, &fPrefix, &fSuffix})
+        writer.Write(*text);
+    writer.Write(std::int16_t(fUnit));
+}
+
+void TVGRDimStyle::ReadData(std::int32_t, TBinaryReader& reader) {
+    fID = reader.Read<std::int16_t>();
+    fName = reader.ReadString();
+    for (TAlphaColor* color : {&fDimColor, &fFillColor, &fExtColor, &fHeadColor})
+        *color = reader.Read<TAlphaColor>();
+    fDimLineType = TKSLineType(reader.Read<std::int16_t>());
+    fExtLineType = TKSLineType(reader.Read<std::int16_t>());
+    fHeadType = TKSLTermType(reader.Read<std::int16_t>());
+    fHeadSize = reader.Read<std::int32_t>();
+    fArrowOpen = reader.Read<std::int16_t>();
+    fDimPenWidth = reader.Read<std::int32_t>();
+    fExtPenWidth = reader.Read<std::int32_t>();
+    for (bool* flag : {&fBold, &fItalic, &fUnderline, &fStrikeout})
+        *flag = reader.ReadBool();
+    fFontHeight = reader.Read<std::int32_t>();
+    fFontName = reader.ReadString();
+    fFontColor = reader.Read<TAlphaColor>();
+    fTextPos = TKSLTextPos(reader.Read<std::int16_t>());
+    fRadialStyle = TKSLRadialStyle(reader.Read<std::int16_t>());
+    for (std::int32_t* length : {&fDimBreak, &fDimSpace, &fExtSize, &fExtGap})
+        *length = reader.Read<std::int32_t>();
+    for (std::u16string* text : {&fFormat, &fPrefix, &fSuffix})
+        *text = reader.ReadString();
+    fUnit = TKSLUnits(reader.Read<std::int16_t>());
 }
 
 } // namespace vagrel

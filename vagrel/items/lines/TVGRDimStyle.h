@@ -11,6 +11,8 @@
 
 namespace vagrel {
 
+class TBinaryReader;
+class TBinaryWriter;
 class TJsonArray;
 class TJsonObject;
 class TVGRBaseLabel;
@@ -51,6 +53,8 @@ public:
 
     void WriteJson(TJsonArray& styles) const;
     void ReadJson(std::int32_t version, TJsonObject& json);
+    void WriteData(TBinaryWriter& writer) const;
+    void ReadData(std::int32_t version, TBinaryReader& reader);
 
 private:
     void AsignId();

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// vagrel convert: between the JSON and the binary form.
+#include "Commands.h"
+
+#include <host/HostLabel.h>
+#include <vagrel/foundation/Text.h>
+
+#include <CLI/CLI.hpp>
+
+namespace vagrel::cli {
+
+namespace {
+
+struct TConvert {
+    std::string in;
+    std::string out;
+};
+
+TKSLExt FormatOf(const std::string& name) {
+    if (name.ends_with(".json"))
+        return lfJSON;
+    if (name.ends_with(".vgr"))
+        return lfBin;
+    throw CLI::ValidationError("OUT", "\"" + name + "\" ends neither in .json nor in .vgr");
+}
+
+void Run(const TConvert& arguments) {
+    const TKSLExt format = FormatOf(arguments.out);
+    HostLabel label;
+    label.LoadFromFile(FromUtf8(arguments.in));
+    label.SaveToFile(FromUtf8(arguments.out), format);
+}
+
+} // namespace
+
+void AddConvert(CLI::App& app) {
+    auto arguments = std::make_shared<TConvert>();
+    CLI::App* command = app.add_subcommand("convert", "Convert a document between JSON and the binary form");
+    command->add_option("IN", arguments->in, "the document, of either form by its content")->required();
+    command->add_option("OUT", arguments->out, "the file to write: .json or .vgr")->required();
+    command->footer("Example: vagrel convert label.json label.vgr");
+    command->callback([arguments] { Run(*arguments); });
+}
+
+} // namespace vagrel::cli
