@@ -169,11 +169,11 @@ void TVGRLayer::WriteData(TBinaryWriter& writer) const {
     writer.Write(fName);
     writer.Write(fColor);
     writer.Write(fBackColor);
-    for (bool flag : {fBold, fItalic, fUnderline, fStrikeout})
+    for (bool flag : {fFont.bold, fFont.italic, fFont.underline, fFont.strikeout})
         writer.Write(flag);
-    writer.Write(fFontHeight);
-    writer.Write(fFontName);
-    writer.Write(fFontColor);
+    writer.Write(fFont.height);
+    writer.Write(fFont.name);
+    writer.Write(fFont.color);
     writer.Write(std::int32_t(fOptions.Bits()));
     writer.Write(fZPos);
     writer.Write(fPenWidth);
@@ -198,11 +198,11 @@ void TVGRLayer::ReadData(std::int32_t, TBinaryReader& reader) {
     fName = reader.ReadString();
     fColor = reader.Read<TAlphaColor>();
     fBackColor = reader.Read<TAlphaColor>();
-    for (bool* flag : {&fBold, &fItalic, &fUnderline, &fStrikeout})
+    for (bool* flag : {&fFont.bold, &fFont.italic, &fFont.underline, &fFont.strikeout})
         *flag = reader.ReadBool();
-    fFontHeight = reader.Read<std::int32_t>();
-    fFontName = reader.ReadString();
-    fFontColor = reader.Read<TAlphaColor>();
+    fFont.height = reader.Read<std::int32_t>();
+    fFont.name = reader.ReadString();
+    fFont.color = reader.Read<TAlphaColor>();
     fOptions = TKSLayerOpts::FromBits(reader.Read<std::uint32_t>());
     fZPos = reader.Read<std::uint16_t>();
     fPenWidth = reader.Read<std::int32_t>();

@@ -70,7 +70,7 @@ void TVGRLayer::SetBackColor(TAlphaColor value, bool apply) {
 }
 
 void TVGRLayer::SetFontColor(TAlphaColor value, bool apply) {
-    fFontColor = value;
+    fFont.color = value;
     if (apply)
         ForEachItem([&](TVGRBaseItem& item) {
             if (auto* font = Query<IKSLFont>(&item))
@@ -85,23 +85,23 @@ void TVGRLayer::SetValues() {
         if (auto* area = dynamic_cast<TVGR2DItem*>(&item))
             area->StoreBackColor(fBackColor);
         if (auto* font = Query<IKSLFont>(&item)) {
-            font->SetFontColor(fFontColor);
-            font->SetFontName(fFontName);
+            font->SetFontColor(fFont.color);
+            font->SetFontName(fFont.name);
             font->SetFontHeight(GetFontHeight());
-            font->SetBold(fBold);
-            font->SetItalic(fItalic);
-            font->SetUnderline(fUnderline);
+            font->SetBold(fFont.bold);
+            font->SetItalic(fFont.italic);
+            font->SetUnderline(fFont.underline);
         }
     });
 }
 
 float TVGRLayer::GetPenWidth() const { return GetBaseValue(fPenWidth); }
 void TVGRLayer::SetPenWidth(float mm) { fPenWidth = ToInt32(SetBaseValue(mm)); }
-float TVGRLayer::GetFontHeight() const { return GetBaseValue(fFontHeight); }
-void TVGRLayer::SetFontHeight(float mm) { fFontHeight = ToInt32(SetBaseValue(mm)); }
+float TVGRLayer::GetFontHeight() const { return GetBaseValue(fFont.height); }
+void TVGRLayer::SetFontHeight(float mm) { fFont.height = ToInt32(SetBaseValue(mm)); }
 void TVGRLayer::SetLineType(TKSLineType value) { Change(fLineType, value); }
 void TVGRLayer::SetZPos(std::uint16_t value) { Change(fZPos, value); }
-void TVGRLayer::SetItalic(bool value) { Change(fItalic, value); }
+void TVGRLayer::SetItalic(bool value) { Change(fFont.italic, value); }
 
 float TVGRLayer::Restricted(std::int32_t base) const { return fOwner.GetVal(base, true); }
 
@@ -138,8 +138,10 @@ void TVGRLayer::SetFileImg(std::u16string_view file) {
 
 void TVGRLayer::Assign(const TVGRLayer& s) {
     fName = s.fName, fColor = s.fColor, fBackColor = s.fBackColor, fLineType = s.fLineType, fOptions = s.fOptions;
-    fZPos = s.fZPos, fPenWidth = s.fPenWidth, fBold = s.fBold, fItalic = s.fItalic, fUnderline = s.fUnderline;
-    fFontName = s.fFontName, fFontHeight = s.fFontHeight, fFontColor = s.fFontColor, fFill = s.fFill;
+    fZPos = s.fZPos, fPenWidth = s.fPenWidth, fFill = s.fFill;
+    const bool strikeout = fFont.strikeout;
+    fFont = s.fFont;
+    fFont.strikeout = strikeout;
     fFileImg = s.fFileImg, fEmbeded = s.fEmbeded, fPrintImg = s.fPrintImg;
     fImgMarLeft = s.fImgMarLeft, fImgMarTop = s.fImgMarTop, fImgMarBottom = s.fImgMarBottom;
     fImgMarRight = s.fImgMarRight;

@@ -2,6 +2,7 @@
 // A layer: visibility and print rules of its items, default style values, and a picture or map behind the sheet.
 #pragma once
 
+#include <vagrel/document/TFont.h>
 #include <vagrel/foundation/Colors.h>
 #include <vagrel/foundation/Enumerations.h>
 
@@ -38,7 +39,7 @@ public:
 
     TAlphaColor GetColor() const { return fColor; }
     TAlphaColor GetBackColor() const { return fBackColor; }
-    TAlphaColor GetFontColor() const { return fFontColor; }
+    TAlphaColor GetFontColor() const { return fFont.color; }
     /// `apply` also gives the colour to the items of the layer.
     void SetColor(TAlphaColor value, bool apply = false);
     void SetBackColor(TAlphaColor value, bool apply = false);
@@ -55,18 +56,18 @@ public:
     void SetLineType(TKSLineType value);
     std::uint16_t GetZPos() const { return fZPos; }
     void SetZPos(std::uint16_t value);
-    bool GetBold() const { return fBold; }
-    void SetBold(bool value) { fBold = value; }
-    bool GetItalic() const { return fItalic; }
+    bool GetBold() const { return fFont.bold; }
+    void SetBold(bool value) { fFont.bold = value; }
+    bool GetItalic() const { return fFont.italic; }
     void SetItalic(bool value);
-    bool GetUnderline() const { return fUnderline; }
-    void SetUnderline(bool value) { fUnderline = value; }
-    bool GetStrikeout() const { return fStrikeout; }
-    void SetStrikeout(bool value) { fStrikeout = value; }
+    bool GetUnderline() const { return fFont.underline; }
+    void SetUnderline(bool value) { fFont.underline = value; }
+    bool GetStrikeout() const { return fFont.strikeout; }
+    void SetStrikeout(bool value) { fFont.strikeout = value; }
     bool GetFill() const { return fFill; }
     void SetFill(bool value) { fFill = value; }
-    const std::u16string& GetFontName() const { return fFontName; }
-    void SetFontName(std::u16string_view value) { fFontName = value; }
+    const std::u16string& GetFontName() const { return fFont.name; }
+    void SetFontName(std::u16string_view value) { fFont.name = value; }
 
     // The background picture. Margins are in the restricted document unit; a margin beyond the label becomes half of
     // it.
@@ -138,10 +139,7 @@ private:
     TKSLayerOpts fOptions{lopVisible, lopPrint, lopSelectable, lopExport};
     std::uint16_t fZPos = 0;
     std::int32_t fPenWidth = 100;
-    bool fBold = false, fItalic = false, fUnderline = false, fStrikeout = false;
-    std::u16string fFontName = u"Arial";
-    std::int32_t fFontHeight = 10000;
-    TAlphaColor fFontColor = OpaqueBlack;
+    TFont fFont;
     bool fFill = true;
     std::u16string fFileImg;
     TKSLImgType fImageType = itNone;

@@ -74,14 +74,7 @@ void TVGRLayer::WriteJson(TJsonArray& layers) const {
         map.SetBool(u"ShowMapCenter", fShowMapCenter);
         WriteMargins(map);
     }
-    TJsonObject& font = json.AddObject(u"Font");
-    font.SetString(u"Name", fFontName);
-    font.SetBool(u"Bold", fBold);
-    font.SetBool(u"Italic", fItalic);
-    font.SetBool(u"Underline", fUnderline);
-    font.SetBool(u"Strikeout", fStrikeout);
-    font.SetFloat(u"FontHeight", RoundTo3(GetFontHeight()));
-    SetAlphaColor(font, u"FontColor", fFontColor);
+    fFont.WriteJson(json);
     json.SetInt(u"LineType", fLineType);
     json.SetFloat(u"PenWidth", RoundTo3(GetPenWidth()));
 }
@@ -119,14 +112,7 @@ void TVGRLayer::ReadJson(std::int32_t, TJsonObject& json) {
         fLongitude = map.GetFloat(u"Longitude");
         fShowMapCenter = map.GetBool(u"ShowMapCenter");
     }
-    TJsonObject& font = json.GetObject(u"Font");
-    fFontName = font.GetString(u"Name");
-    fBold = font.GetBool(u"Bold");
-    fItalic = font.GetBool(u"Italic");
-    fUnderline = font.GetBool(u"Underline");
-    fStrikeout = font.GetBool(u"Strikeout");
-    SetFontHeight(float(font.GetFloat(u"FontHeight")));
-    fFontColor = GetAlphaColor(font.GetObject(u"FontColor"));
+    fFont.ReadJson(json);
     fLineType = TKSLineType(json.GetInt(u"LineType"));
     SetPenWidth(float(json.GetFloat(u"PenWidth")));
 }

@@ -17,6 +17,8 @@ struct TSVGOutput {
     TKSLExportSVG ExportType = svCurrentUnit;
     float Factor = 1;
     bool attrID = false;
+    /// Texts stand by their baseline: renderers differ on `alignment-baseline` at a text element.
+    bool portable = false;
     std::vector<std::string> svg;
     std::vector<std::string> defs;
 

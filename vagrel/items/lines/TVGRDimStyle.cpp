@@ -82,14 +82,7 @@ void TVGRDimStyle::WriteJson(TJsonArray& styles) const {
     json.SetInt(u"HeadType", fHeadType);
     length(json, u"HeadSize", fHeadSize);
     json.SetInt(u"ArrowOpen", fArrowOpen);
-    TJsonObject& font = json.AddObject(u"Font");
-    font.SetString(u"Name", fFontName);
-    font.SetBool(u"Bold", fBold);
-    font.SetBool(u"Italic", fItalic);
-    font.SetBool(u"Underline", fUnderline);
-    font.SetBool(u"Strikeout", fStrikeout);
-    length(font, u"FontHeight", fFontHeight);
-    SetAlphaColor(font, u"FontColor", fFontColor);
+    fFont.WriteJson(json);
     json.SetInt(u"TextPos", fTextPos);
     json.SetInt(u"RadialStyle", fRadialStyle);
     length(json, u"DimBreak", fDimBreak);
@@ -100,16 +93,6 @@ void TVGRDimStyle::WriteJson(TJsonArray& styles) const {
     json.SetString(u"Prefix", fPrefix);
     json.SetString(u"Suffix", fSuffix);
     json.SetInt(u"Unit", fUnit);
-}
-
-void TVGRDimStyle::ReadFont(TJsonObject& font) {
-    fFontName = font.GetString(u"Name");
-    fBold = font.GetBool(u"Bold");
-    fItalic = font.GetBool(u"Italic");
-    fUnderline = font.GetBool(u"Underline");
-    fStrikeout = font.GetBool(u"Strikeout");
-    SetFontHeight(float(font.GetFloat(u"FontHeight")));
-    fFontColor = GetAlphaColor(font.GetObject(u"FontColor"));
 }
 
 void TVGRDimStyle::ReadJson(std::int32_t, TJsonObject& json) {
@@ -127,7 +110,8 @@ void TVGRDimStyle::ReadJson(std::int32_t, TJsonObject& json) {
     fHeadType = TKSLTermType(json.GetInt(u"HeadType"));
     SetHeadSize(mm(u"HeadSize"));
     SetArrowOpen(std::int16_t(std::clamp(json.GetInt(u"ArrowOpen"), 4, 22)));
-    ReadFont(json.GetObject(u"Font"));
+    fFont.ReadJson(json);
+    SetFontHeight(GetBaseValue(fFont.height)); // within its limits
     fTextPos = TKSLTextPos(json.GetInt(u"TextPos"));
     fRadialStyle = TKSLRadialStyle(json.GetInt(u"RadialStyle"));
     SetDimBreak(mm(u"DimBreak"));
@@ -152,11 +136,11 @@ void TVGRDimStyle::WriteData(TBinaryWriter& writer) const {
     writer.Write(fArrowOpen);
     writer.Write(fDimPenWidth);
     writer.Write(fExtPenWidth);
-    for (bool flag : {fBold, fItalic, fUnderline, fStrikeout})
+    for (bool flag : {fFont.bold, fFont.italic, fFont.underline, fFont.strikeout})
         writer.Write(flag);
-    writer.Write(fFontHeight);
-    writer.Write(fFontName);
-    writer.Write(fFontColor);
+    writer.Write(fFont.height);
+    writer.Write(fFont.name);
+    writer.Write(fFont.color);
     writer.Write(std::int16_t(fTextPos));
     writer.Write(std::int16_t(fRadialStyle));
     for (std::int32_t length : {fDimBreak, fDimSpace, fExtSize, fExtGap})
@@ -178,11 +162,11 @@ void TVGRDimStyle::ReadData(std::int32_t, TBinaryReader& reader) {
     fArrowOpen = reader.Read<std::int16_t>();
     fDimPenWidth = reader.Read<std::int32_t>();
     fExtPenWidth = reader.Read<std::int32_t>();
-    for (bool* flag : {&fBold, &fItalic, &fUnderline, &fStrikeout})
+    for (bool* flag : {&fFont.bold, &fFont.italic, &fFont.underline, &fFont.strikeout})
         *flag = reader.ReadBool();
-    fFontHeight = reader.Read<std::int32_t>();
-    fFontName = reader.ReadString();
-    fFontColor = reader.Read<TAlphaColor>();
+    fFont.height = reader.Read<std::int32_t>();
+    fFont.name = reader.ReadString();
+    fFont.color = reader.Read<TAlphaColor>();
     fTextPos = TKSLTextPos(reader.Read<std::int16_t>());
     fRadialStyle = TKSLRadialStyle(reader.Read<std::int16_t>());
     for (std::int32_t* length : {&fDimBreak, &fDimSpace, &fExtSize, &fExtGap})

@@ -2,6 +2,7 @@
 // A dimension style: the looks that many dimensions share.
 #pragma once
 
+#include <vagrel/document/TFont.h>
 #include <vagrel/foundation/Colors.h>
 #include <vagrel/foundation/Enumerations.h>
 
@@ -42,7 +43,7 @@ public:
     /// Degrees: 4 to 22.
     void SetArrowOpen(std::int16_t degrees);
     /// Millimetres: 0.8 to 15.
-    void SetFontHeight(float mm) { StoreLength(fFontHeight, mm, 800, 15000); }
+    void SetFontHeight(float mm) { StoreLength(fFont.height, mm, 800, 15000); }
     /// Millimetres: 0 to 10.
     void SetDimBreak(float mm) { StoreLength(fDimBreak, mm, 0, 10000); }
     void SetDimSpace(float mm);
@@ -59,7 +60,6 @@ public:
 private:
     void AsignId();
     void StoreLength(std::int32_t& field, float mm, std::int32_t low, std::int32_t high);
-    void ReadFont(TJsonObject& font);
 
     TVGRBaseLabel& fOwner;
     std::int16_t fID = 0;
@@ -70,12 +70,9 @@ private:
     std::int32_t fHeadSize = 1500;
     std::int32_t fDimPenWidth = 100, fExtPenWidth = 100;
     std::int16_t fArrowOpen = 8;
-    bool fBold = false, fItalic = false, fUnderline = false, fStrikeout = false;
     TKSLTextPos fTextPos = tpAbove;
     TKSLRadialStyle fRadialStyle = rs01;
-    std::u16string fFontName = u"Arial";
-    std::int32_t fFontHeight = 4000;
-    TAlphaColor fFontColor = OpaqueBlack;
+    TFont fFont{.height = 4000};
     std::int32_t fDimBreak = 0;
     std::int32_t fDimSpace = 5000;
     std::int32_t fExtGap = 1500;
