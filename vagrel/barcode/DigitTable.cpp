@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+// The digits of the 2 of 5 codes, Code 11, MSI and POSTNET.
+#include <vagrel/barcode/PatternTable_p.h>
+
+namespace vagrel::detail {
+
+constexpr std::array<std::string_view, 10> TwoOfFiveTable{"nnwwn", "wnnnw", "nwnnw", "wwnnn", "nnwnw",
+                                                          "wnwnn", "nwwnn", "nnnww", "wnnwn", "nwnwn"};
+
+consteval bool TwoAreWide() {
+    for (const std::string_view row : TwoOfFiveTable) {
+        int wide = 0;
+        for (const char element : row)
+            wide += element == 'w';
+        if (row.size() != 5 || wide != 2)
+            return false;
+    }
+    return true;
+}
+static_assert(TwoAreWide());
+
+constexpr TPatternTable<12, 5> Code11Table =
+    PatternTable<12, 5>("nnnnw wnnnw nwnnw wwnnn nnwnw wnwnn nwwnn nnnww wnnwn wnnnn nnwwn nnwnn", 0);
+static_assert(sizeof(Code11Table) == 60);
+
+// Four bits, the highest first: a narrow bar and a long space for 0, the reverse for 1.
+consteval std::array<TPattern<8>, 10> MakeMsiTable() {
+    std::array<TPattern<8>, 10> table{};
+    for (std::size_t digit = 0; digit < 10; ++digit)
+        for (std::size_t bit = 0; bit < 4; ++bit) {
+            const bool one = digit >> (3 - bit) & 1;
+            table[digit][2 * bit] = one ? 'D' : 'N';
+            table[digit][2 * bit + 1] = one ? '1' : '2';
+        }
+    return table;
+}
+constexpr std::array<TPattern<8>, 10> MsiTable = MakeMsiTable();
+
+// Two tall bars of five; their places weigh 7, 4, 2, 1, 0, and 11 is the digit 0.
+consteval std::array<TPattern<10>, 10> MakePostnetTable() {
+    constexpr std::array<std::size_t, 5> weights{7, 4, 2, 1, 0};
+    std::array<TPattern<10>, 10> table{};
+    for (std::size_t a = 0; a < 5; ++a)
+        for (std::size_t b = 0; b < a; ++b) {
+            TPattern<10>& row = table[(weights[a] + weights[b]) % 11];
+            for (std::size_t bar = 0; bar < 5; ++bar) {
+                row[2 * bar] = bar == a || bar == b ? 'N' : 'A';
+                row[2 * bar + 1] = '6';
+            }
+        }
+    return table;
+}
+constexpr std::array<TPattern<10>, 10> PostnetTable = MakePostnetTable();
+static_assert(sizeof(MsiTable) == 80 && sizeof(PostnetTable) == 100 && PostnetTable[9][9] == '6');
+
+} // namespace vagrel::detail
