@@ -2,9 +2,6 @@
 // The sets that each character code belongs to.
 #include <vagrel/barcode/Symbology_p.h>
 
-#include <algorithm>
-#include <array>
-
 namespace vagrel::detail {
 
 namespace {
@@ -38,14 +35,8 @@ consteval std::array<std::uint16_t, 256> MakeClasses() {
     return table;
 }
 
-constexpr std::array<std::uint16_t, 256> Classes = MakeClasses();
-
 } // namespace
 
-bool Is(char character, std::uint16_t sets) { return Classes[static_cast<unsigned char>(character)] & sets; }
-
-bool AllOf(std::string_view text, std::uint16_t sets) {
-    return std::ranges::all_of(text, [=](char character) { return Is(character, sets); });
-}
+constexpr std::array<std::uint16_t, 256> CharacterClasses = MakeClasses();
 
 } // namespace vagrel::detail

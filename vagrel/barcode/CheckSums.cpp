@@ -10,34 +10,32 @@ namespace {
 
 using detail::DigitValue;
 
-/// Sum of value times weight(position), positions from the right, the last is 1.
-template <class Value, class Weight>
-std::uint64_t WeightedSum(std::string_view code, Value value, Weight weight) {
-    std::uint64_t sum = 0, position = 0;
-    for (auto it = code.rbegin(); it != code.rend(); ++it)
-        sum += static_cast<unsigned>(value(*it)) * weight(++position);
+std::string UpToTen(std::size_t sum) { return {static_cast<char>('0' + (10 - sum % 10) % 10)}; }
+
+/// Sum of the digits, which weigh 3 and 1 in turn; `last` is the weight of the last.
+std::size_t ThriceEveryOther(std::string_view code, std::size_t last) {
+    std::size_t sum = 0, weight = last;
+    for (auto it = code.rbegin(); it != code.rend(); ++it, weight = 4 - weight)
+        sum += weight * DigitValue(*it);
     return sum;
 }
 
-std::string UpToTen(std::uint64_t sum) { return {static_cast<char>('0' + (10 - sum % 10) % 10)}; }
-
-std::uint64_t OddThrice(std::uint64_t position) { return position % 2 ? 3 : 1; }
-std::uint64_t EvenThrice(std::uint64_t position) { return position % 2 ? 1 : 3; }
-
-std::string Mod11(std::string_view code, std::uint64_t period) {
-    const auto rest = WeightedSum(
-                          code, [](char c) { return c == '-' ? 10 : DigitValue(c); },
-                          [=](std::uint64_t position) { return (position - 1) % period + 1; }) %
-                      11;
-    return {rest == 10 ? '-' : static_cast<char>('0' + rest)};
+/// Values from the right weigh 1, 2, ... `period`, then from 1 again; "-" stands for 10.
+std::string Mod11(std::string_view code, std::size_t period) {
+    std::size_t sum = 0, weight = 0;
+    for (auto it = code.rbegin(); it != code.rend(); ++it) {
+        weight = weight == period ? 1 : weight + 1;
+        sum += weight * (*it == '-' ? 10 : DigitValue(*it));
+    }
+    return {sum % 11 == 10 ? '-' : static_cast<char>('0' + sum % 11)};
 }
 
 /// Digit sum of twice the number that the even positions from the left spell, plus the digits at odd positions.
-std::uint64_t MsiSum(std::string_view code) {
-    std::uint64_t sum = 0;
-    unsigned carry = 0;
+std::size_t MsiSum(std::string_view code) {
+    std::size_t sum = 0;
+    std::size_t carry = 0;
     for (std::size_t i = code.size(); i-- > 0;) {
-        const auto digit = static_cast<unsigned>(DigitValue(code[i]));
+        const std::size_t digit = DigitValue(code[i]);
         if (i % 2) {
             sum += (2 * digit + carry) % 10;
             carry = (2 * digit + carry) / 10;
@@ -49,12 +47,12 @@ std::uint64_t MsiSum(std::string_view code) {
 }
 
 /// The sum of Luhn's formula (ISO/IEC 7812), for a check digit that is still to follow.
-std::uint64_t LuhnSum(std::string_view code) {
-    std::uint64_t sum = 0;
+std::size_t LuhnSum(std::string_view code) {
+    std::size_t sum = 0;
     bool doubled = true;
     for (auto it = code.rbegin(); it != code.rend(); ++it, doubled = !doubled) {
-        const int digit = DigitValue(*it);
-        sum += static_cast<unsigned>(doubled ? 2 * digit / 10 + 2 * digit % 10 : digit);
+        const std::size_t digit = DigitValue(*it);
+        sum += doubled ? 2 * digit / 10 + 2 * digit % 10 : digit;
     }
     return sum;
 }
@@ -63,9 +61,9 @@ std::string CheckDigits(std::string_view code, TKSLCheckType checkType) {
     switch (checkType) {
     case ctMod10:
     case ctMod10Right:
-        return UpToTen(WeightedSum(code, DigitValue, OddThrice));
+        return UpToTen(ThriceEveryOther(code, 3));
     case ctMod10UPCE:
-        return UpToTen(WeightedSum(code.substr(std::min<std::size_t>(1, code.size())), DigitValue, EvenThrice));
+        return UpToTen(ThriceEveryOther(code.substr(std::min<std::size_t>(1, code.size())), 1));
     case ctMod11: {
         const std::string first = Mod11(code, 10);
         return code.size() < 10 ? first : first + Mod11(std::string(code) + first, 9);

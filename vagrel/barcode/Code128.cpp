@@ -36,20 +36,20 @@ std::size_t ValueInUpperHalf(char character) {
 
 std::size_t ValueOfPair(std::string_view pair) {
     const bool digits = pair.size() == 2 && AllOf(pair, Digits);
-    return digits ? static_cast<std::size_t>(DigitValue(pair[0]) * 10 + DigitValue(pair[1])) : 0;
+    return digits ? DigitValue(pair[0]) * 10 + DigitValue(pair[1]) : 0;
 }
 
 /// A symbol that grows; it counts its check character on the way.
 class TSymbol {
 public:
-    TSymbol(const TPatternRequest& request, TSymbolValue start) : fCheck(start) {
-        fPattern.reserve(6 * (request.Code.size() + 6));
-        Append(fPattern, Code128Table[start]);
+    TSymbol(const TPatternRequest& request, TSymbolValue start)
+        : fPattern(6 * (request.Code.size() + 6)), fCheck(start) {
+        fPattern.Add(Code128Table[start]);
         if (request.Gs1)
             Add(svFnc1);
     }
     void Add(std::size_t value) {
-        Append(fPattern, Code128Table[value]);
+        fPattern.Add(Code128Table[value]);
         fCheck += value * ++fPosition;
     }
     template <class ValueOf>
@@ -62,12 +62,13 @@ public:
             Add(ValueOfPair(digits.substr(i, 2)));
     }
     std::string Finish() {
-        Append(fPattern, Code128Table[fCheck % 103]);
-        return std::move(fPattern += "D3T1N1D");
+        fPattern.Add(Code128Table[fCheck % 103]);
+        fPattern.Add("D3T1N1D");
+        return fPattern.Take();
     }
 
 private:
-    std::string fPattern;
+    TPatternWriter fPattern;
     std::uint64_t fCheck, fPosition = 0;
 };
 

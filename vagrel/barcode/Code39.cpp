@@ -25,6 +25,7 @@ std::string CheckCharacter(std::string_view code) {
 /// Text in full ASCII by pairs of plain characters; codes from 128 up are left out.
 std::string Expand(std::string_view code) {
     std::string expanded;
+    expanded.reserve(2 * code.size());
     for (const char character : code) {
         if (!Is(character, Ascii))
             continue;
@@ -40,18 +41,18 @@ std::string Expand(std::string_view code) {
 template <std::size_t Count, std::size_t Length>
 std::string Spaced(const TPatternTable<Count, Length>& table, const std::array<std::int8_t, 256>& rows,
                    std::string_view code, std::size_t start, std::size_t stop) {
-    std::string pattern;
-    pattern.reserve((Length + 1) * (code.size() + 2));
-    const auto add = [&](std::size_t row) {
-        Append(pattern, table[row]);
-        pattern += '1';
-    };
-    add(start);
-    for (const char character : code)
-        if (const int row = RowOf(rows, character); row >= 0)
-            add(static_cast<std::size_t>(row));
-    Append(pattern, table[stop]);
-    return pattern;
+    TPatternWriter pattern((Length + 1) * (code.size() + 2));
+    pattern.Add(table[start]);
+    for (const char character : code) {
+        const int row = RowOf(rows, character);
+        if (row < 0)
+            continue;
+        pattern.Add('1');
+        pattern.Add(table[static_cast<std::size_t>(row)]);
+    }
+    pattern.Add('1');
+    pattern.Add(table[stop]);
+    return pattern.Take();
 }
 
 } // namespace

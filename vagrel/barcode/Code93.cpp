@@ -14,8 +14,10 @@ constexpr std::array<std::int8_t, 256> Code93Rows = RowsOf(Code93Characters);
 /// Values weighed from the right with 1, 2, ... `period`, then from 1 again; modulo 47.
 std::uint8_t Check(const std::vector<std::uint8_t>& values, std::size_t period) {
     std::size_t sum = 0, weight = 0;
-    for (auto it = values.rbegin(); it != values.rend(); ++it, weight = (weight + 1) % period)
-        sum += *it * (weight + 1);
+    for (auto it = values.rbegin(); it != values.rend(); ++it) {
+        weight = weight == period ? 1 : weight + 1;
+        sum += *it * weight;
+    }
     return static_cast<std::uint8_t>(sum % Code93Table.size());
 }
 
@@ -23,11 +25,12 @@ std::uint8_t Check(const std::vector<std::uint8_t>& values, std::size_t period) 
 std::string Encode(std::vector<std::uint8_t> values) {
     values.push_back(Check(values, 20));
     values.push_back(Check(values, 15));
-    std::string pattern = "N1N1W1";
-    pattern.reserve(6 * (values.size() + 3));
+    TPatternWriter pattern(6 * values.size() + 13);
+    pattern.Add("N1N1W1");
     for (const std::uint8_t value : values)
-        Append(pattern, Code93Table[value]);
-    return pattern += "N1N1W1N";
+        pattern.Add(Code93Table[value]);
+    pattern.Add("N1N1W1N");
+    return pattern.Take();
 }
 
 void Add(std::vector<std::uint8_t>& values, char character) {

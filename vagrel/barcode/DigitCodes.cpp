@@ -7,17 +7,18 @@ namespace vagrel::detail {
 
 namespace {
 
-/// Start, what `add` makes of each digit, stop; empty when a character is no digit.
-template <class AddDigit>
-std::string OfDigits(std::string_view code, std::string_view start, std::string_view stop, std::size_t elements,
-                     AddDigit add) {
+/// Start, the row of each digit, stop; empty when a character is no digit.
+template <std::size_t Length>
+std::string OfDigits(std::string_view code, std::string_view start, const std::array<TPattern<Length>, 10>& table,
+                     std::string_view stop) {
     if (!AllOf(code, Digits))
         return {};
-    std::string pattern(start);
-    pattern.reserve(start.size() + elements * code.size() + stop.size());
+    TPatternWriter pattern(start.size() + Length * code.size() + stop.size());
+    pattern.Add(start);
     for (const char digit : code)
-        add(pattern, static_cast<std::size_t>(DigitValue(digit)));
-    return pattern += stop;
+        pattern.Add(table[DigitValue(digit)]);
+    pattern.Add(stop);
+    return pattern.Take();
 }
 
 /// A number shorter than `length` gets zeros in front; the digit that is one too many was its check digit.
@@ -47,61 +48,41 @@ TDigitControl PrepareInterleaved(const TSymbology& symbology, std::string code, 
 }
 
 std::string EncodeInterleaved(const TPatternRequest& request) {
-    if (!AllOf(request.Code, Digits))
+    const std::string_view code = request.Code;
+    if (!AllOf(code, Digits))
         return {};
-    std::string pattern = "N1N1";
-    pattern.reserve(5 * request.Code.size() + 7);
-    for (std::size_t i = 0; i + 1 < request.Code.size(); i += 2) {
-        const std::string_view bars = TwoOfFiveTable[static_cast<std::size_t>(DigitValue(request.Code[i]))];
-        const std::string_view spaces = TwoOfFiveTable[static_cast<std::size_t>(DigitValue(request.Code[i + 1]))];
-        for (std::size_t element = 0; element < 5; ++element) {
-            pattern += bars[element] == 'w' ? 'M' : 'N';
-            pattern += spaces[element] == 'w' ? '6' : '1';
-        }
-    }
-    return pattern += "M1N";
+    TPatternWriter pattern(5 * code.size() + 7);
+    pattern.Add("N1N1");
+    for (std::size_t i = 0; i + 1 < code.size(); i += 2)
+        pattern.Add(InterleavedTable[10 * DigitValue(code[i]) + DigitValue(code[i + 1])]);
+    pattern.Add("M1N");
+    return pattern.Take();
 }
 
 std::string EncodeIndustrial(const TPatternRequest& request) {
-    return OfDigits(request.Code, "M1M1N1", "M1N1M1", 10, [](std::string& pattern, std::size_t digit) {
-        for (const char element : TwoOfFiveTable[digit])
-            pattern += element == 'w' ? "M1" : "N1";
-    });
+    return OfDigits(request.Code, "M1M1N1", IndustrialTable, "M1N1M1");
 }
 
 std::string EncodeMatrix25(const TPatternRequest& request) {
-    return OfDigits(request.Code, "F1N1N1", "F1N1N", 6, [](std::string& pattern, std::size_t digit) {
-        for (std::size_t element = 0; element < 5; ++element) {
-            const bool wide = TwoOfFiveTable[digit][element] == 'w', bar = element % 2 == 0;
-            pattern += bar ? (wide ? 'M' : 'N') : (wide ? '6' : '1');
-        }
-        pattern += '1';
-    });
+    return OfDigits(request.Code, "F1N1N1", Matrix25Table, "F1N1N");
 }
 
 std::string EncodeCode11(const TPatternRequest& request) {
     if (!AllOf(request.Code, Characters11))
         return {};
-    const TPattern<5>& ends = Code11Table[10];
-    std::string pattern(ends.data(), ends.size());
-    pattern.reserve(6 * (request.Code.size() + 2));
+    TPatternWriter pattern(6 * request.Code.size() + 11);
+    pattern.Add(Code11Table[10]);
     for (const char character : request.Code) {
-        pattern += '6';
-        Append(pattern, Code11Table[character == '-' ? 11 : static_cast<std::size_t>(DigitValue(character))]);
+        pattern.Add('6');
+        pattern.Add(Code11Table[character == '-' ? 11 : DigitValue(character)]);
     }
-    pattern += '6';
-    Append(pattern, ends);
-    return pattern;
+    pattern.Add('6');
+    pattern.Add(Code11Table[10]);
+    return pattern.Take();
 }
 
-std::string EncodeMsi(const TPatternRequest& request) {
-    return OfDigits(request.Code, "D6", "M2M", 8,
-                    [](std::string& pattern, std::size_t digit) { Append(pattern, MsiTable[digit]); });
-}
+std::string EncodeMsi(const TPatternRequest& request) { return OfDigits(request.Code, "D6", MsiTable, "M2M"); }
 
-std::string EncodePostnet(const TPatternRequest& request) {
-    return OfDigits(request.Code, "N6", "N", 10,
-                    [](std::string& pattern, std::size_t digit) { Append(pattern, PostnetTable[digit]); });
-}
+std::string EncodePostnet(const TPatternRequest& request) { return OfDigits(request.Code, "N6", PostnetTable, "N"); }
 
 } // namespace vagrel::detail

@@ -4,20 +4,41 @@
 
 namespace vagrel::detail {
 
-constexpr std::array<std::string_view, 10> TwoOfFiveTable{"nnwwn", "wnnnw", "nwnnw", "wwnnn", "nnwnw",
-                                                          "wnwnn", "nwwnn", "nnnww", "wnnwn", "nwnwn"};
+// Two elements of five are wide.
+constexpr TPatternTable<10, 5> TwoOfFive =
+    PatternTable<10, 5>("nnwwn wnnnw nwnnw wwnnn nnwnw wnwnn nwwnn nnnww wnnwn nwnwn", 7);
 
-consteval bool TwoAreWide() {
-    for (const std::string_view row : TwoOfFiveTable) {
-        int wide = 0;
-        for (const char element : row)
-            wide += element == 'w';
-        if (row.size() != 5 || wide != 2)
-            return false;
-    }
-    return true;
+consteval bool IsWide(std::size_t digit, std::size_t element) {
+    const char c = TwoOfFive[digit][element];
+    return c == 'M' || c == '6';
 }
-static_assert(TwoAreWide());
+
+consteval std::array<TPattern<10>, 100> MakeInterleavedTable() {
+    std::array<TPattern<10>, 100> table{};
+    for (std::size_t pair = 0; pair < 100; ++pair)
+        for (std::size_t i = 0; i < 5; ++i) {
+            table[pair][2 * i] = IsWide(pair / 10, i) ? 'M' : 'N';
+            table[pair][2 * i + 1] = IsWide(pair % 10, i) ? '6' : '1';
+        }
+    return table;
+}
+constexpr std::array<TPattern<10>, 100> InterleavedTable = MakeInterleavedTable();
+
+consteval std::array<TPattern<10>, 10> MakeIndustrialTable() {
+    std::array<TPattern<10>, 10> table{};
+    for (std::size_t digit = 0; digit < 10; ++digit)
+        for (std::size_t i = 0; i < 5; ++i) {
+            table[digit][2 * i] = IsWide(digit, i) ? 'M' : 'N';
+            table[digit][2 * i + 1] = '1';
+        }
+    return table;
+}
+constexpr std::array<TPattern<10>, 10> IndustrialTable = MakeIndustrialTable();
+
+// The last element parts the digits.
+constexpr TPatternTable<10, 6> Matrix25Table =
+    PatternTable<10, 6>("nnwwnn wnnnwn nwnnwn wwnnnn nnwnwn wnwnnn nwwnnn nnnwwn wnnwnn nwnwnn", 8);
+static_assert(sizeof(InterleavedTable) == 1000 && sizeof(IndustrialTable) == 100 && sizeof(Matrix25Table) == 60);
 
 constexpr TPatternTable<12, 5> Code11Table =
     PatternTable<12, 5>("nnnnw wnnnw nwnnw wwnnn nnwnw wnwnn nwwnn nnnww wnnwn wnnnn nnwwn nnwnn", 0);

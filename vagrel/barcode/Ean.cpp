@@ -18,22 +18,23 @@ const TGuards& Guards(bool extended) {
 
 bool IsNumber(std::string_view code, std::size_t length) { return code.size() == length && AllOf(code, Digits); }
 
-void AppendDigits(std::string& pattern, std::string_view digits, std::string_view parity) {
+void AddDigits(TPatternWriter& pattern, std::string_view digits, std::string_view parity) {
     for (std::size_t i = 0; i < digits.size(); ++i)
-        Append(pattern, (parity[i] == 'A' ? EanTableA : EanTableB)[static_cast<std::size_t>(DigitValue(digits[i]))]);
+        pattern.Add((parity[i] == 'A' ? EanTableA : EanTableB)[DigitValue(digits[i])]);
 }
 
 /// Two halves of the same length, the right one in set C.
 std::string Halves(std::string_view digits, std::string_view parity, bool showNumber) {
     const auto& [side, centre, unused] = Guards(showNumber);
     const std::size_t half = digits.size() / 2;
-    std::string pattern(side);
-    pattern.reserve(64);
-    AppendDigits(pattern, digits.substr(0, half), parity);
-    pattern += centre;
+    TPatternWriter pattern(59);
+    pattern.Add(side);
+    AddDigits(pattern, digits.substr(0, half), parity);
+    pattern.Add(centre);
     for (const char digit : digits.substr(half))
-        Append(pattern, EanTableC[static_cast<std::size_t>(DigitValue(digit))]);
-    return pattern += side;
+        pattern.Add(EanTableC[DigitValue(digit)]);
+    pattern.Add(side);
+    return pattern.Take();
 }
 
 } // namespace
@@ -41,7 +42,7 @@ std::string Halves(std::string_view digits, std::string_view parity, bool showNu
 std::string EncodeEan13(const TPatternRequest& request) {
     if (!IsNumber(request.Code, 13))
         return {};
-    const auto first = static_cast<std::size_t>(DigitValue(request.Code[0]));
+    const auto first = DigitValue(request.Code[0]);
     return Halves(request.Code.substr(1), Ean13Parity[first], request.ShowNumber);
 }
 
@@ -57,10 +58,11 @@ std::string EncodeUpcE(const TPatternRequest& request) {
     if (!IsNumber(request.Code, 8))
         return {};
     const TGuards& guards = Guards(request.ShowNumber);
-    std::string pattern(guards.Side);
-    pattern.reserve(36);
-    AppendDigits(pattern, request.Code.substr(1, 6), UpcEParity[static_cast<std::size_t>(DigitValue(request.Code[7]))]);
-    return pattern += guards.UpcEEnd;
+    TPatternWriter pattern(33);
+    pattern.Add(guards.Side);
+    AddDigits(pattern, request.Code.substr(1, 6), UpcEParity[DigitValue(request.Code[7])]);
+    pattern.Add(guards.UpcEEnd);
+    return pattern.Take();
 }
 
 } // namespace vagrel::detail

@@ -5,8 +5,10 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace vagrel::detail {
 
@@ -16,10 +18,31 @@ using TPattern = std::array<char, Length>;
 template <std::size_t Count, std::size_t Length>
 using TPatternTable = std::array<TPattern<Length>, Count>;
 
-template <std::size_t Length>
-void Append(std::string& pattern, const TPattern<Length>& row) {
-    pattern.append(row.data(), Length);
-}
+/// A pattern that grows; rows are copied with their length known to the compiler.
+class TPatternWriter {
+public:
+    /// `elements` is a guess; the pattern may become longer.
+    explicit TPatternWriter(std::size_t elements) : fPattern(elements, '\0') {}
+    template <std::size_t Length>
+    void Add(const TPattern<Length>& row) {
+        std::memcpy(Room(Length), row.data(), Length);
+    }
+    void Add(char element) { *Room(1) = element; }
+    void Add(std::string_view elements) { elements.copy(Room(elements.size()), elements.size()); }
+    std::string Take() {
+        fPattern.resize(fUsed);
+        return std::move(fPattern);
+    }
+
+private:
+    char* Room(std::size_t length) {
+        if (fUsed + length > fPattern.size())
+            fPattern.resize(2 * (fUsed + length));
+        return fPattern.data() + std::exchange(fUsed, fUsed + length);
+    }
+    std::string fPattern;
+    std::size_t fUsed = 0;
+};
 
 /// Rows parted by blanks, each element its number of modules (1 to 4), or n and w for narrow and wide. Does not compile
 /// when a row is missing, too long or, counting a wide element as 2, not `modules` wide (0: not checked).
@@ -81,8 +104,10 @@ extern const TPatternTable<10, 4> EanTableA, EanTableB, EanTableC;
 /// The sets of the left half by the first digit, and of UPC-E by the check digit.
 extern const std::array<std::string_view, 10> Ean13Parity, UpcEParity;
 
-/// Elements of the digits in the 2 of 5 codes, w for a wide one.
-extern const std::array<std::string_view, 10> TwoOfFiveTable;
+/// 2 of 5: pairs of digits, bars from the first and spaces from the second; digits in bars; digits in bars and spaces.
+extern const std::array<TPattern<10>, 100> InterleavedTable;
+extern const std::array<TPattern<10>, 10> IndustrialTable;
+extern const std::array<TPattern<6>, 10> Matrix25Table;
 /// Digits, start and stop, then "-".
 extern const TPatternTable<12, 5> Code11Table;
 extern const std::array<TPattern<8>, 10> MsiTable;

@@ -4,6 +4,9 @@
 
 #include <vagrel/barcode/TBarcode.h>
 
+#include <algorithm>
+#include <array>
+
 namespace vagrel::detail {
 
 // Sets of characters, as bits; a character may be in several.
@@ -19,13 +22,21 @@ inline constexpr std::uint16_t CodeSetB = 1 << 8;
 /// The upper half of ISO 8859-1 that Code 128 reaches by FNC4, with the space.
 inline constexpr std::uint16_t UpperHalf = 1 << 9;
 
+/// The sets of each character code.
+extern const std::array<std::uint16_t, 256> CharacterClasses;
+
 /// True when `character` is in one of the sets.
-bool Is(char character, std::uint16_t sets);
+inline bool Is(char character, std::uint16_t sets) {
+    return CharacterClasses[static_cast<unsigned char>(character)] & sets;
+}
+
 /// True when every character is in one of the sets.
-bool AllOf(std::string_view text, std::uint16_t sets);
+inline bool AllOf(std::string_view text, std::uint16_t sets) {
+    return std::ranges::all_of(text, [=](char character) { return Is(character, sets); });
+}
 
 /// 0 for a character that is no digit.
-inline int DigitValue(char digit) { return Is(digit, Digits) ? digit - '0' : 0; }
+inline std::size_t DigitValue(char digit) { return Is(digit, Digits) ? static_cast<std::size_t>(digit - '0') : 0; }
 
 struct TPatternRequest {
     std::string_view Code;

@@ -60,18 +60,28 @@ constexpr std::optional<TElement> ElementOf(char element) {
     }
 }
 
-/// Sum of the widths of a pattern, `widths` in the order of TKSLDrawWidth.
+constexpr std::size_t Unmeasured = 6;
+
+/// Position of each character's width in TKSLDrawWidth.
+constexpr std::array<std::uint8_t, 256> WidthTable = [] {
+    std::array<std::uint8_t, 256> table{};
+    table.fill(Unmeasured);
+    for (const char character : std::string_view("NMDTWFAB915623874"))
+        table[static_cast<std::size_t>(character)] = static_cast<std::uint8_t>(ElementOf(character)->Width);
+    return table;
+}();
+
+/// Sum of the widths of a pattern, `widths` in the order of TKSLDrawWidth, then 0.
 template <class Number>
-Number Measure(std::string_view pattern, const std::array<Number, 6>& widths) {
+Number Measure(std::string_view pattern, const std::array<Number, Unmeasured + 1>& widths) {
     Number sum = 0;
     for (const char character : pattern)
-        if (const auto element = ElementOf(character); element && character != 'C' && character != 'e')
-            sum += widths[static_cast<std::size_t>(element->Width)];
+        sum += widths[WidthTable[static_cast<unsigned char>(character)]];
     return sum;
 }
 
 double Offset(std::string_view pattern, std::size_t elements, double w, double factor) {
-    return Measure<double>(pattern.substr(0, elements), {w, w * factor, 2 * w, 3 * w, 4 * w, 1.5 * w});
+    return Measure<double>(pattern.substr(0, elements), {w, w * factor, 2 * w, 3 * w, 4 * w, 1.5 * w, 0});
 }
 
 } // namespace
@@ -80,8 +90,8 @@ std::int32_t TBarcode::BarCodeWidth(std::string_view pattern, std::int32_t barWi
     const std::int64_t w = barWidth;
     if (!isValid)
         return ToInt32(60 * w);
-    return ToInt32(
-        Measure<std::int64_t>(pattern, {w, Round32(static_cast<double>(w) * factor), 2 * w, 3 * w, 4 * w, 3 * w / 2}));
+    return ToInt32(Measure<std::int64_t>(
+        pattern, {w, Round32(static_cast<double>(w) * factor), 2 * w, 3 * w, 4 * w, 3 * w / 2, 0}));
 }
 
 void TBarcode::Ean13Pos(std::string_view pattern, double barWidth, double factor, double& text1, double& text2) {
