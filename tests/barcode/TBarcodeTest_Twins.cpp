@@ -5,8 +5,10 @@
 #include <gtest/gtest.h>
 #include <zint.h>
 
+#include <algorithm>
 #include <memory>
 #include <numeric>
+#include <vector>
 
 namespace vagrel {
 namespace {

@@ -5,69 +5,36 @@
 #include <vagrel/foundation/Rounding.h>
 
 #include <array>
-#include <optional>
 
 namespace vagrel {
 
 namespace {
 
 struct TElement {
+    char Character;
     TKSLDrawWidth Width;
     TKSLDrawBar Bar;
 };
 
-/// An element by its character. C and e, which no symbology here uses, are drawn but not measured.
-constexpr std::optional<TElement> ElementOf(char element) {
-    switch (element) {
-    case 'N':
-        return TElement{dw1, dbB};
-    case 'M':
-        return TElement{dw1F, dbB};
-    case 'D':
-        return TElement{dw2, dbB};
-    case 'T':
-        return TElement{dw3, dbB};
-    case 'W':
-        return TElement{dw4, dbB};
-    case 'F':
-        return TElement{dw32, dbB};
-    case 'A':
-        return TElement{dw1, dbB2};
-    case 'B':
-        return TElement{dw1F, dbB2};
-    case 'C':
-        return TElement{dw2, dbB2};
-    case '9':
-        return TElement{dw1, dbEB};
-    case '1':
-    case '5':
-        return TElement{dw1, dbW};
-    case '6':
-        return TElement{dw1F, dbW};
-    case '2':
-        return TElement{dw2, dbW};
-    case '3':
-    case '8':
-        return TElement{dw3, dbW};
-    case '7':
-        return TElement{dw32, dbW};
-    case '4':
-        return TElement{dw4, dbEW};
-    case 'e':
-        return TElement{dw1, dbEW};
-    default:
-        return {};
-    }
-}
+// clang-format off
+constexpr TElement Elements[] = {
+    {'N', dw1, dbB}, {'M', dw1F, dbB}, {'D', dw2, dbB}, {'T', dw3, dbB}, {'W', dw4, dbB}, {'F', dw32, dbB},
+    {'A', dw1, dbB2}, {'B', dw1F, dbB2}, {'C', dw2, dbB2},
+    {'9', dw1, dbEB},
+    {'1', dw1, dbW}, {'5', dw1, dbW}, {'6', dw1F, dbW}, {'2', dw2, dbW}, {'3', dw3, dbW}, {'8', dw3, dbW}, {'7', dw32, dbW},
+    {'4', dw4, dbEW}, {'e', dw1, dbEW},
+};
+// clang-format on
 
 constexpr std::size_t Unmeasured = 6;
 
-/// Position of each character's width in TKSLDrawWidth.
+/// Position of each character's width in TKSLDrawWidth. C and e, which no symbology here uses, are not measured.
 constexpr std::array<std::uint8_t, 256> WidthTable = [] {
     std::array<std::uint8_t, 256> table{};
     table.fill(Unmeasured);
-    for (const char character : std::string_view("NMDTWFAB915623874"))
-        table[static_cast<std::size_t>(character)] = static_cast<std::uint8_t>(ElementOf(character)->Width);
+    for (const TElement& element : Elements)
+        if (element.Character != 'C' && element.Character != 'e')
+            table[static_cast<std::size_t>(element.Character)] = static_cast<std::uint8_t>(element.Width);
     return table;
 }();
 
@@ -116,10 +83,11 @@ void TBarcode::UPCAPos(std::string_view pattern, double barWidth, double factor,
 }
 
 void TBarcode::FillBarData(char element, TKSLDrawWidth& width, TKSLDrawBar& bar) {
-    if (const auto known = ElementOf(element)) {
-        width = known->Width;
-        bar = known->Bar;
-    }
+    for (const TElement& known : Elements)
+        if (known.Character == element) {
+            width = known.Width;
+            bar = known.Bar;
+        }
 }
 
 } // namespace vagrel
