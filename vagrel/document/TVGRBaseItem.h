@@ -245,6 +245,8 @@ protected:
     virtual void WriteFields(TBinaryWriter&) const {}
     virtual void ReadFields(std::int32_t, TBinaryReader&) {}
 
+    /// Clips a move in base units so that a rectangle stays on the page.
+    void ClipToPage(std::int64_t& bx, std::int64_t& by, const TKSLRect& rect) const;
     void CheckBaseBoundsMoveResize(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt option) const;
     /// A hit of a snap search, when the place is near the candidate.
     static bool Snap(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLPto candidate, TKSRefType type,

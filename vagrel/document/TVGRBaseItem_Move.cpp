@@ -168,11 +168,14 @@ void TVGRBaseItem::CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by, TKSLM
 }
 
 void TVGRBaseItem::CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by) const {
-    if (fItemType == itSector)
-        return;
+    if (fItemType != itSector)
+        ClipToPage(bx, by, fBoundsRect);
+}
+
+void TVGRBaseItem::ClipToPage(std::int64_t& bx, std::int64_t& by, const TKSLRect& rect) const {
     const TVGRMeasure& measure = fOwner.GetMeasure();
-    ClipBase(bx, fBoundsRect.Left, fBoundsRect.Right, measure.GetSize(mtLabelWidth, true));
-    ClipBase(by, fBoundsRect.Top, fBoundsRect.Bottom, measure.GetSize(mtLabelHeight, true));
+    ClipBase(bx, rect.Left, rect.Right, measure.GetSize(mtLabelWidth, true));
+    ClipBase(by, rect.Top, rect.Bottom, measure.GetSize(mtLabelHeight, true));
 }
 
 void TVGRBaseItem::CheckBaseBoundsMoveResize(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt option) const {

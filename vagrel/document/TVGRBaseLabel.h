@@ -266,9 +266,11 @@ public:
     void WriteData(TBinaryWriter& writer) const;
     void ReadData(TBinaryReader& reader);
     /// The document as an SVG text in UTF-8.
-    std::string SVG(TKSLExportSVG type, float factor, bool attrID) const;
+    /// `portable` sets texts by their baseline, which every renderer places the same; it needs measured texts.
+    std::string SVG(TKSLExportSVG type, float factor, bool attrID, bool portable = false) const;
     /// Writes the same text to a file, whole or not at all. Throws EStreamError.
-    void SaveSVG(std::u16string_view filename, TKSLExportSVG type, float factor, bool attrID) const;
+    void SaveSVG(std::u16string_view filename, TKSLExportSVG type, float factor, bool attrID,
+                 bool portable = false) const;
 
     // The host's operations. Factories take base coordinates and construct the host's class on the active layer.
 

@@ -52,7 +52,7 @@ public:
     /// Copies provider, place, zoom and key; neither the pending image nor the providers that were used.
     void Assign(const TVGRMapping& source);
 
-private:
+protected:
     TVGRBaseLabel& fOwner;
     TKSLMapProviders fMapProviders;
     TKSLMapProvider fProvider = mpOpenStreetMap;

@@ -36,8 +36,8 @@ std::string Root(const TSVGOutput& out, const TVGRMeasure& measure) {
 
 } // namespace
 
-std::string TVGRBaseLabel::SVG(TKSLExportSVG type, float factor, bool attrID) const {
-    TSVGOutput out{type, factor, attrID, {}, {}};
+std::string TVGRBaseLabel::SVG(TKSLExportSVG type, float factor, bool attrID, bool portable) const {
+    TSVGOutput out{type, factor, attrID, portable, {}, {}};
     for (const auto& item : fItems)
         if (item->Shows({lopVisible, lopExport}))
             item->WriteSVG(out);
@@ -54,8 +54,9 @@ std::string TVGRBaseLabel::SVG(TKSLExportSVG type, float factor, bool attrID) co
     return text;
 }
 
-void TVGRBaseLabel::SaveSVG(std::u16string_view filename, TKSLExportSVG type, float factor, bool attrID) const {
-    WriteFile(ToUtf8(filename), SVG(type, factor, attrID));
+void TVGRBaseLabel::SaveSVG(std::u16string_view filename, TKSLExportSVG type, float factor, bool attrID,
+                            bool portable) const {
+    WriteFile(ToUtf8(filename), SVG(type, factor, attrID, portable));
 }
 
 } // namespace vagrel

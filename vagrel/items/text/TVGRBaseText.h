@@ -4,6 +4,7 @@
 
 #include <vagrel/document/TFont.h>
 #include <vagrel/document/TVGRBaseItem.h>
+#include <vagrel/document/TVGRCmd.h>
 
 namespace vagrel {
 
@@ -14,8 +15,8 @@ struct TTextMeasure {
     double ratio = 1; ///< drawn font height to nominal font height
 };
 
-/// One line of text around point 1, its anchor; point 2 follows from the measured size. A host measures in its override of
-/// `CalcValues` and hands the result to `StoreMeasure`.
+/// One line of text around point 1, its anchor; point 2 follows from the measured size. A host measures in its override
+/// of `CalcValues` and hands the result to `StoreMeasure`.
 class TVGRBaseText : public TVGRBaseItem,
                      public TKSLTextShim,
                      public IKSLFont,

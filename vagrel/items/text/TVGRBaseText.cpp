@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+// Text, looks, data and geometry of the single-line text.
+#include <vagrel/items/text/TVGRBaseText.h>
+
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/TVGRBaseDraw.h>
+#include <vagrel/foundation/Units.h>
+#include <vagrel/items/text/LabelPosition.h>
+#include <vagrel/merge/TVGRData.h>
+#include <vagrel/messages/TVGRMsg.h>
+
+#include <algorithm>
+
+namespace vagrel {
+
+namespace {
+
+constexpr std::int32_t SmallestFont = 1000;
+
+// The characters in front of a field's name that tell its source.
+struct TPrefix {
+    char16_t mark;
+    TKSLFillType type;
+};
+constexpr TPrefix Prefixes[] = {{u'@', ftCounter}, {u'{', ftJson}, {u'~', ftField},
+                                {u'=', ftList},    {u'?', ftAsk},  {u'^', ftCsv}};
+
+} // namespace
+
+TVGRBaseText::TVGRBaseText(TVGRBaseLabel& owner, bool preview) : TVGRBaseText(owner, owner.GetLayer(1), preview) {}
+
+TVGRBaseText::TVGRBaseText(TVGRBaseLabel& owner, TVGRLayer& layer, bool preview)
+    : TVGRBaseItem(owner, itText, layer, preview) {
+    fPenWidth = 0;
+}
+
+void TVGRBaseText::SetText(std::u16string_view value) {
+    if (value == fText)
+        return;
+    TVGRTxtCmd::AddCommand(*this, cmd::Text);
+    fText = value;
+    if (FillType() != ftNone && !fText.empty()) {
+        fField.clear();
+        fFillType = ftNone;
+    }
+    dText = fText;
+    if (fState != isSelected)
+        StateCalc();
+}
+
+TFontStyles TVGRBaseText::Style() const {
+    TFontStyles styles;
+    styles.Put(fsBold, fFont.bold);
+    styles.Put(fsItalic, fFont.italic);
+    styles.Put(fsUnderline, fFont.underline);
+    styles.Put(fsStrikeOut, fFont.strikeout);
+    return styles;
+}
+
+TKSLSPoint TVGRBaseText::Position(const TVGRBaseDraw& draw) const { return {At(1).DrawX(draw), At(1).DrawY(draw)}; }
+
+void TVGRBaseText::SetScaleX(float value) {
+    value = std::clamp(value, 0.4f, 2.0f);
+    if (value == fScaleX)
+        return;
+    fScaleX = value;
+    StateCalc();
+}
+
+void TVGRBaseText::SetFontName(std::u16string_view value) {
+    if (value == fFont.name)
+        return;
+    TVGRTxtCmd::AddCommand(*this, cmd::FontName);
+    fFont.name = value;
+    StateCalc();
+}
+
+float TVGRBaseText::GetFontHeight() const { return GetBaseValue(fFont.height); }
+
+void TVGRBaseText::SetFontHeight(float mm) {
+    const std::int32_t height = std::max(ToInt32(SetBaseValue(mm)), SmallestFont);
+    if (height == fFont.height)
+        return;
+    fFont.height = height;
+    StateCalc();
+}
+
+void TVGRBaseText::SetFontColor(TAlphaColor value) {
+    if (value == fFont.color)
+        return;
+    TVGRColorCmd::AddCommand(*this, cmd::Font);
+    fFont.color = value;
+    StateUpdate();
+}
+
+void TVGRBaseText::StoreStyle(bool& field, bool value, cmd::TBoolIndex index) {
+    if (value == field)
+        return;
+    TVGRBoolCmd::AddCommand(*this, index);
+    field = value;
+    StateCalc();
+}
+
+void TVGRBaseText::SetStrikeout(bool value) {
+    if (value == fFont.strikeout)
+        return;
+    fFont.strikeout = value;
+    fChanged = true;
+    StateUpdate();
+}
+
+void TVGRBaseText::SetBackColor(TAlphaColor value) {
+    if (value == fBackColor)
+        return;
+    TVGRColorCmd::AddCommand(*this, cmd::BackInterface);
+    fBackColor = value;
+    StateUpdate();
+}
+
+void TVGRBaseText::SetFilled(bool value) {
+    if (value == fFill)
+        return;
+    TVGRBoolCmd::AddCommand(*this, cmd::Filled);
+    fFill = value;
+    StateUpdate();
+}
+
+template <class T>
+void TVGRBaseText::StorePlace(T& field, T value) {
+    if (value == field)
+        return;
+    field = value;
+    UpdateBounds();
+    StateUpdate();
+}
+template void TVGRBaseText::StorePlace(TKSLHorzAlign&, TKSLHorzAlign);
+template void TVGRBaseText::StorePlace(TKSLVertAlign&, TKSLVertAlign);
+template void TVGRBaseText::StorePlace(TKSLAngle&, TKSLAngle);
+
+float TVGRBaseText::GetPaddingX() const { return GetBaseValue(fPaddingX); }
+float TVGRBaseText::GetPaddingY() const { return GetBaseValue(fPaddingY); }
+void TVGRBaseText::SetPaddingX(float mm) { StorePadding(fPaddingX, mm); }
+void TVGRBaseText::SetPaddingY(float mm) { StorePadding(fPaddingY, mm); }
+
+void TVGRBaseText::StorePadding(std::int32_t& field, float mm) {
+    const std::int32_t base = std::max(ToInt32(SetBaseValue(mm)), 0);
+    if (base == field)
+        return;
+    field = base;
+    UpdateBounds();
+    StateUpdate();
+}
+
+float TVGRBaseText::GetRadio() const { return GetBaseValue(fRadio); }
+
+void TVGRBaseText::SetRadio(float mm) {
+    const std::int64_t base = SetBaseValue(mm);
+    SetBaseRadio(fMeasured.height > 0 ? std::min<std::int64_t>(base, fMeasured.height / 2) : base);
+}
+
+void TVGRBaseText::SetBaseRadio(std::int64_t value) {
+    if (value == fRadio)
+        return;
+    fRadio = value;
+    StateUpdate();
+}
+
+// Data
+
+TKSLFillType TVGRBaseText::FillType() const { return fOwner.GetData().GetLinkData() ? fFillType : ftNone; }
+
+std::u16string TVGRBaseText::SymFillName() const { return IncSymData(FillType(), fField); }
+
+void TVGRBaseText::SetData(TKSLFillType type, std::u16string_view name, std::u16string_view format) {
+    fFillType = ftNone;
+    if (name.find(TVGRMsg::GetListValue(u"Unassign")) != std::u16string_view::npos) {
+        fField.clear();
+    } else {
+        const auto prefix = name.empty() ? std::end(Prefixes) : std::ranges::find(Prefixes, name[0], &TPrefix::mark);
+        const bool marked = prefix != std::end(Prefixes);
+        fFillType = marked ? prefix->type : type;
+        fField = marked ? name.substr(1) : name;
+    }
+    fFormat = format;
+    ShowBinding();
+    fText = dText;
+    StateCalc();
+    if (fState == isSelected)
+        NotifyUpdate(chChText);
+}
+
+// A bound text shows the name of its field until a record fills it.
+void TVGRBaseText::ShowBinding() {
+    dText = fFillType != ftNone ? fField : fText;
+    aIsData = fFillType != ftNone && !fField.empty();
+}
+
+bool TVGRBaseText::GetIsData() const { return aIsData && fOwner.GetData().IsValidData(fFillType, fField); }
+
+void TVGRBaseText::FillData(bool first) {
+    if (!fOwner.GetData().IsValidData(FillType(), fField))
+        return;
+    dText = fOwner.DataValue(fField, fFormat, FillType());
+    // An export writes the text that an item holds.
+    if (fFromPreview)
+        fText = dText;
+    if (first)
+        CalcValues(1);
+}
+
+// Geometry
+
+void TVGRBaseText::StoreMeasure(const TTextMeasure& measure) {
+    fMeasured = measure;
+    UpdateBounds();
+}
+
+void TVGRBaseText::UpdateBounds() {
+    const std::int64_t scale = fOwner.GetMeasure().GetDrawScale();
+    auto extent = [scale](std::int32_t size, std::int32_t padding) {
+        return MulSat(std::int64_t(size) + 2 * std::int64_t(padding), scale);
+    };
+    At(2) = {AddSat(At(1).bX, extent(fMeasured.width, fPaddingX)),
+             AddSat(At(1).bY, extent(fMeasured.height, fPaddingY))};
+    fBoundsRect = {At(1).bX, At(1).bY, At(2).bX, At(2).bY};
+    AdjustRect(fBoundsRect, fHorzAlign, fVertAlign, fAngle);
+    TVGRBaseItem::UpdateBounds();
+}
+
+TKSLBase TVGRBaseText::CenterPoint() const {
+    return {AddSat(fBoundsRect.Left, fBoundsRect.GetWidth() / 2), AddSat(fBoundsRect.Top, fBoundsRect.GetHeight() / 2)};
+}
+
+void TVGRBaseText::CheckFit(TKSLExtent& extent) const {
+    extent.Widen(fBoundsRect.Left, fBoundsRect.Top, 0);
+    extent.Widen(fBoundsRect.Right, fBoundsRect.Bottom, 0);
+}
+
+void TVGRBaseText::CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& props) const {
+    Keep(base, props,
+         {iyID, iyLayer, iyFont, iy1D, iyBack, iyBorder, iyAngle, iyData, iyRadio, iyPadding, iyAlignHorzVert}, {});
+}
+
+} // namespace vagrel
