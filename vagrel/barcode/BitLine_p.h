@@ -3,10 +3,17 @@
 #pragma once
 
 #include <array>
-#include <bit>
 #include <cstdint>
 
 namespace vagrel {
+
+/// The number of set bits. std::popcount is a call where the processor is not known to have the instruction.
+inline int CountBits(std::uint64_t word) {
+    word -= word >> 1 & 0x5555'5555'5555'5555;
+    word = (word & 0x3333'3333'3333'3333) + (word >> 2 & 0x3333'3333'3333'3333);
+    word = (word + (word >> 4)) & 0x0F0F'0F0F'0F0F'0F0F;
+    return int(word * 0x0101'0101'0101'0101 >> 56);
+}
 
 /// Cells of a line; cell 0 is the lowest bit of the first word.
 template <int Words>
@@ -35,10 +42,16 @@ struct TBitLine {
         Bits[std::size_t(cell) / 64] &= ~(std::uint64_t(1) << cell % 64);
         Or(cell, dark);
     }
+    bool Any() const {
+        std::uint64_t any = 0;
+        for (const std::uint64_t word : Bits)
+            any |= word;
+        return any != 0;
+    }
     int Count() const {
         int count = 0;
         for (const std::uint64_t word : Bits)
-            count += std::popcount(word);
+            count += CountBits(word);
         return count;
     }
 
@@ -101,7 +114,7 @@ int LinePenalty(const TBitLine<Words>& line, const TBitLine<Words>& inside) {
     const TBitLine<Words> quiet = Fours(light);
     const TBitLine<Words> finders = line & (light >> 1) & (line >> 2) & (line >> 3) & (line >> 4) & (light >> 5) &
                                     (line >> 6) & ((quiet >> 7) | (quiet << 4));
-    return fives.Count() + 2 * starts.Count() + 40 * finders.Count();
+    return fives.Count() + 2 * starts.Count() + (finders.Any() ? 40 * finders.Count() : 0);
 }
 
 /// Each square of 2 by 2 equal cells in two neighbouring lines scores 3.

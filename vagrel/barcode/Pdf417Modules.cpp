@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <vagrel/barcode/ModuleBytes_p.h>
 #include <vagrel/barcode/Pdf417Modules.h>
 #include <vagrel/barcode/Pdf417Tables_p.h>
 #include <vagrel/foundation/Exceptions.h>
@@ -9,10 +10,10 @@ namespace {
 constexpr std::uint32_t Start = 0b11111111010101000;
 constexpr std::uint32_t Stop = 0b111111101000101001;
 
-std::uint8_t* Paint(std::uint8_t* at, std::uint32_t pattern, int modules) {
-    for (int i = modules - 1; i >= 0; --i)
-        *at++ = pattern >> i & 1;
-    return at;
+// A pattern of 17 modules.
+std::uint8_t* Paint(std::uint8_t* at, std::uint32_t pattern) {
+    *at++ = pattern >> 16 & 1;
+    return detail::PutModules(detail::PutModules(at, std::uint8_t(pattern >> 8)), std::uint8_t(pattern));
 }
 
 } // namespace
@@ -29,16 +30,17 @@ std::vector<std::uint8_t> Pdf417Modules(const TCodeWords& words, int columns, in
     for (int row = 0; row < rows; ++row) {
         const int cluster = row % 3;
         const int base = row / 3 * 30;
-        at = Paint(at, Start, 17);
-        at = Paint(at, Pdf417Pattern(cluster, base + facts[cluster]), 17);
+        at = Paint(at, Start);
+        at = Paint(at, Pdf417Pattern(cluster, base + facts[cluster]));
         for (int column = 0; column < columns; ++column)
-            at = Paint(at, Pdf417Pattern(cluster, *word++), 17);
+            at = Paint(at, Pdf417Pattern(cluster, *word++));
         if (truncated) {
             *at++ = 1;
             continue;
         }
-        at = Paint(at, Pdf417Pattern(cluster, base + facts[(cluster + 2) % 3]), 17);
-        at = Paint(at, Stop, 18);
+        at = Paint(at, Pdf417Pattern(cluster, base + facts[(cluster + 2) % 3]));
+        at = Paint(at, Stop >> 1);
+        *at++ = Stop & 1;
     }
     return modules;
 }

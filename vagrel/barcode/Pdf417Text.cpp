@@ -35,9 +35,9 @@ TTextToken Label(int number) {
 
 } // namespace
 
-TTextToken ReadTextToken(std::string_view text) {
-    const TTextToken plain = Character(1, std::uint8_t(text[0]));
-    if (text[0] != '\\' || text.size() == 1)
+TTextToken ReadTextEscape(std::string_view text) {
+    const TTextToken plain = Character(1, '\\');
+    if (text.size() == 1)
         return plain;
     const std::string_view rest = text.substr(2);
     switch (text[1]) {

@@ -37,7 +37,12 @@ struct TTextToken {
     int RawCount = 0;
     std::array<int, 3> Raw{};
 };
+/// Reads the front of `text`, which is not empty and begins with a backslash.
+TTextToken ReadTextEscape(std::string_view text);
+
 /// Reads the front of `text`, which is not empty, with its escapes.
-TTextToken ReadTextToken(std::string_view text);
+inline TTextToken ReadTextToken(std::string_view text) {
+    return text[0] == '\\' ? ReadTextEscape(text) : TTextToken{1, TextCompactionTable[std::uint8_t(text[0])], 0, {}};
+}
 
 } // namespace vagrel::detail

@@ -124,6 +124,7 @@ private:
 
 std::string TPDF417::GetValid(std::u16string_view code) {
     std::string valid;
+    valid.reserve(code.size());
     for (const char16_t unit : code) {
         if (unit >= 32 && unit <= 126)
             valid += char(unit);
@@ -185,15 +186,16 @@ void TPDF417::CalculateECC(TCodeWords& words, int numCodewords, int eccLen) {
     constexpr std::uint32_t prime = Pdf417Prime;
     const auto coefficients = Pdf417Coefficients(eccLen);
     const auto last = std::size_t(eccLen) - 1;
-    std::array<std::uint32_t, most> registers{}; // the highest first
+    // The highest first. Only the one on top is reduced: on its way up a register takes at most 512 products, which
+    // fit.
+    std::array<std::uint32_t, most + 1> registers{};
     for (std::size_t i = 0; i < std::size_t(numCodewords); ++i) {
         const std::uint32_t t = (registers[0] + words[i]) % prime;
-        for (std::size_t j = 0; j < last; ++j)
-            registers[j] = (registers[j + 1] + prime * prime - coefficients[j] * t) % prime;
-        registers[last] = (prime * prime - coefficients[last] * t) % prime;
+        for (std::size_t j = 0; j <= last; ++j)
+            registers[j] = registers[j + 1] + (prime - coefficients[j]) * t;
     }
     for (std::size_t j = 0; j <= last; ++j)
-        words[std::size_t(numCodewords) + j] = std::uint16_t((prime - registers[j]) % prime);
+        words[std::size_t(numCodewords) + j] = std::uint16_t((prime - registers[j] % prime) % prime);
 }
 
 std::array<std::uint16_t, 5> TPDF417::BytesToBase900(std::span<const std::uint8_t, 6> bytes) {

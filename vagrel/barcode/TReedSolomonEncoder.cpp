@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <vagrel/barcode/TReedSolomonEncoder.h>
 
+#include <algorithm>
+
 namespace vagrel {
 namespace {
 
@@ -10,10 +12,10 @@ using TPolynomial = std::array<std::uint8_t, TReedSolomonEncoder::MaxDegree>;
 TPolynomial Generator(const TGenericGF& field, int degree) {
     TPolynomial result{};
     const std::size_t last = std::size_t(degree) - 1;
-    result[last] = 1;
-    for (int i = 0; i < degree; ++i) {
-        const std::uint8_t root = field.Exp(field.GetGeneratorBase() + i);
-        for (std::size_t j = 0; j <= last; ++j)
+    result[last] = 1; // higher powers come in ahead of it, one a step
+    for (std::size_t i = 0; i <= last; ++i) {
+        const std::uint8_t root = field.Exp(field.GetGeneratorBase() + int(i));
+        for (std::size_t j = last - std::min(i + 1, last); j <= last; ++j)
             result[j] = std::uint8_t(field.Multiply(result[j], root) ^ (j < last ? result[j + 1] : 0));
     }
     return result;
