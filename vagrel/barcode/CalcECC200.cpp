@@ -56,6 +56,27 @@ void AppendCorrection(std::vector<std::uint8_t>& codewords, const TECC200SymbolP
     }
 }
 
+// The regions of the mapping matrix, each with a dark left and bottom edge and an alternating top and right one.
+std::vector<std::uint8_t> LayOut(std::span<const std::uint8_t> mapping, const TECC200SymbolParam& param) {
+    std::vector<std::uint8_t> matrix(std::size_t(param.Rows * param.Cols), 1);
+    const std::uint8_t* cell = mapping.data();
+    std::uint8_t* at = matrix.data();
+    for (int y = 0; y < param.Rows; ++y) {
+        const int inRegion = y % (param.RegionRows + 2);
+        for (int region = 0; region < param.RegionHCount; ++region, at += param.RegionCols + 2) {
+            if (inRegion == 0) {
+                for (int x = 1; x <= param.RegionCols + 1; x += 2)
+                    at[x] = 0;
+            } else if (inRegion <= param.RegionRows) {
+                std::copy_n(cell, param.RegionCols, at + 1);
+                at[param.RegionCols + 1] = y % 2 == 1;
+                cell += param.RegionCols;
+            }
+        }
+    }
+    return matrix;
+}
+
 } // namespace
 
 void CalcECC200(std::span<const std::uint8_t> aData, TECC200Size aSize, TECC200Shape aShape,
@@ -69,23 +90,7 @@ void CalcECC200(std::span<const std::uint8_t> aData, TECC200Size aSize, TECC200S
 
     aCols = std::uint16_t(param.Cols);
     aRows = std::uint16_t(param.Rows);
-    aMatrix.assign(std::size_t(param.Rows * param.Cols), 0);
-    const std::uint8_t* cell = mapping.data();
-    for (int y = 0; y < param.Rows; ++y) {
-        const int inRegionY = y % (param.RegionRows + 2);
-        std::uint8_t* row = aMatrix.data() + y * param.Cols;
-        for (int x = 0; x < param.Cols; ++x) {
-            const int inRegionX = x % (param.RegionCols + 2);
-            if (inRegionX == 0 || inRegionY == param.RegionRows + 1)
-                row[x] = 1;
-            else if (inRegionY == 0)
-                row[x] = x % 2 == 0;
-            else if (inRegionX == param.RegionCols + 1)
-                row[x] = y % 2 == 1;
-            else
-                row[x] = *cell++;
-        }
-    }
+    aMatrix = LayOut(mapping, param);
 }
 
 } // namespace vagrel

@@ -139,7 +139,8 @@ private:
 void FailMakeCodeword() { throw EOutOfRange(u"MakeCodeword Error"); }
 
 std::vector<std::uint8_t> MakeECC200Codewords(std::span<const std::uint8_t> data, std::size_t limit) {
-    return TCodewords(data).Make(limit);
+    // A codeword holds two digits at the most: what lies behind so many bytes does not change that they do not fit.
+    return TCodewords(data.first(std::min(data.size(), 2 * limit + 1))).Make(limit);
 }
 
 } // namespace vagrel

@@ -5,6 +5,7 @@
 #include <vagrel/foundation/Text.h>
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <span>
 

@@ -61,7 +61,7 @@ constexpr TMaskTable MaskTable = MakeMaskTable();
 
 // The 15 bits of the format information.
 int FormatBits(TErrorCorrectionLevel level, int mask) {
-    const int data = level.FBits << 3 | mask;
+    const int data = (level.FBits & 3) << 3 | mask;
     int remainder = data;
     for (int i = 0; i < 10; ++i)
         remainder = remainder << 1 ^ (remainder >> 9) * 0x537;
