@@ -3,7 +3,7 @@
 #include "ReadBack.h"
 
 #include <vagrel/barcode/CalcECC200.h>
-#include <vagrel/barcode/ECC200_p.h>
+#include <vagrel/barcode/ECC200.h>
 #include <vagrel/foundation/Exceptions.h>
 
 #include <gmock/gmock.h>

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include <vagrel/barcode/CalcECC200.h>
-#include <vagrel/barcode/ECC200_p.h>
+#include <vagrel/barcode/ECC200.h>
 #include <vagrel/barcode/TReedSolomonEncoder.h>
+#include <vagrel/foundation/Exceptions.h>
 
 #include <algorithm>
 
 namespace vagrel {
 namespace {
+
+[[noreturn]] void FailMakeCodeword() { throw EOutOfRange(u"MakeCodeword Error"); }
 
 const TECC200SymbolParam& ChooseSize(std::size_t codewords, TECC200Size size, TECC200Shape shape) {
     const std::size_t rectangles = ecc200_8x18 - 1;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Encodation of Data Matrix: ASCII, and Base 256 where the look-ahead asks for it.
-#include <vagrel/barcode/ECC200_p.h>
+#include <vagrel/barcode/ECC200.h>
 #include <vagrel/foundation/Exceptions.h>
 
 #include <algorithm>
@@ -84,7 +84,7 @@ public:
     }
 
     std::vector<std::uint8_t> Make(std::size_t limit) {
-        while (fAt < fData.size()) {
+        while (fAt < fData.size() && fWords.size() <= limit) {
             // Bytes below 128 alone never lead into Base 256, so the look-ahead is spared behind the last other one.
             if (const auto rest = fData.subspan(fAt); rest.size() > 1 && IsDigit(rest[0]) && IsDigit(rest[1])) {
                 fWords.push_back(std::uint8_t(130 + (rest[0] - '0') * 10 + rest[1] - '0'));
@@ -97,8 +97,6 @@ public:
                 fWords.push_back(std::uint8_t(rest[0] % 128 + 1));
                 ++fAt;
             }
-            if (fWords.size() > limit)
-                FailMakeCodeword();
         }
         return std::move(fWords);
     }
@@ -135,8 +133,6 @@ private:
 };
 
 } // namespace
-
-void FailMakeCodeword() { throw EOutOfRange(u"MakeCodeword Error"); }
 
 std::vector<std::uint8_t> MakeECC200Codewords(std::span<const std::uint8_t> data, std::size_t limit) {
     // A codeword holds two digits at the most: what lies behind so many bytes does not change that they do not fit.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Placement of codewords in the mapping matrix of Data Matrix: diagonal sweeps up and down, with four special corners.
-#include <vagrel/barcode/ECC200_p.h>
+#include <vagrel/barcode/ECC200.h>
 
 namespace vagrel {
 namespace {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The symbol attributes of Data Matrix ECC 200 (ISO/IEC 16022).
-#include <vagrel/barcode/ECC200_p.h>
+#include <vagrel/barcode/ECC200.h>
 
 #include <iterator>
 

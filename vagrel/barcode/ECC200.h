@@ -31,13 +31,11 @@ inline constexpr int ECC200SizeCount = ecc200_16x48;
 /// By `TECC200Size` less 1.
 extern const std::array<TECC200SymbolParam, ECC200SizeCount> ECC200SizeTable;
 
-/// The data codewords of `data`, without padding. Throws as `CalcECC200`; more than `limit` codewords are too many.
+/// The data codewords of `data`, without padding; makes no more once there are more than `limit`. Throws `EOutOfRange`
+/// "Base256_Encode Error" as `CalcECC200`.
 std::vector<std::uint8_t> MakeECC200Codewords(std::span<const std::uint8_t> data, std::size_t limit);
 
 /// Fills the mapping matrix, row by row, with the bits of all codewords.
 std::vector<std::uint8_t> PlaceECC200(std::span<const std::uint8_t> codewords, int rows, int columns);
-
-/// Throws the exception of codewords that do not fit.
-[[noreturn]] void FailMakeCodeword();
 
 } // namespace vagrel
