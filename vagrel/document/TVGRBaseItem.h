@@ -170,6 +170,8 @@ public:
     // Data
 
     virtual bool GetIsData() const { return false; }
+    /// Bound to a field, whether it has a value now or not.
+    bool IsBound() const { return aIsData; }
     /// Takes the values of the current record, for items bound to data.
     virtual void FillData(bool) {}
     /// Recomputes derived geometry: 2 after a change, other values by family.

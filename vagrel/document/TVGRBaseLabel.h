@@ -3,7 +3,7 @@
 //
 // The body of this class is spread by topic: TVGRBaseLabel.cpp (life, identifiers), _Update (update cycle, reading
 // bracket, clearing), _Units (units and values), _Lists (accessors, ownership, layers), _io (JSON), TitleBlock.cpp,
-// svg/SaveSVG.cpp.
+// svg/SaveSVG.cpp, merge/PageFill.cpp, merge/Values.cpp, merge/FieldLists.cpp.
 #pragma once
 
 #include <vagrel/document/Events.h>
@@ -249,6 +249,48 @@ public:
     void Undo();
     void Redo();
 
+    // Data
+
+    /// Prepares a merge: finds what the items to be printed are bound to, opens the source and counts labels and pages.
+    /// The answers to questions are given behind it. Throws EVagrel for a missing CSV file, and what the parser throws.
+    virtual void CheckPrintData();
+    /// One label on.
+    void NextData();
+    /// Moves to the first label of a page, from 1; with `check` nothing moves when that page is current, unless it is
+    /// page 1. `fillData` also fills the preview copies, which moves on to the next page's first label.
+    void GoToPage(std::int32_t page, bool fillData, bool check);
+    /// Fills the preview copies of each cell from the current label on; nothing when the page was filled last.
+    void FillDataPage(std::int32_t page);
+    /// The value of a binding for the current label; `format` is a number or date pattern and may be empty. A field,
+    /// list or question that is unknown gives its name, a counter an empty text.
+    std::u16string DataValue(std::u16string_view name, std::u16string_view format, TKSLFillType type) const;
+    /// 0 for a text that is no number.
+    std::int32_t DataIntValue(std::u16string_view name, TKSLFillType type) const;
+    float DataNumValue(std::u16string_view name, TKSLFillType type) const;
+    /// Stores the bytes of a picture field; false when there are none.
+    bool DataGraphic(std::u16string_view name, std::string& stream) const;
+    /// Without regard to case; null, or an empty text, when absent.
+    TVGRCounter* FindCounter(std::u16string_view name) const;
+    std::u16string CounterValue(std::u16string_view name) const;
+    /// True when another counter than `counter`, which may be null, has the name.
+    bool CounterName(std::u16string_view name, const TVGRCounter* counter) const;
+    /// Unbinds its items and deletes it; false when it is not one of the document's.
+    bool RemoveCounter(TVGRCounter* counter);
+    // Names to choose a binding from, each with the symbol of its kind in front, or bare. Where `data`, the present
+    // choice, is not empty, the entry that unassigns it comes first.
+    std::vector<std::u16string> GetDataFields(std::u16string_view data, bool addCounters) const;
+    std::vector<std::u16string> GetImgFields(std::u16string_view data, bool incSymbol) const;
+    std::vector<std::u16string> GetIntFields(std::u16string_view data, bool incSymbol, bool addCounters) const;
+    std::vector<std::u16string> GetNumFields(std::u16string_view data, bool incSymbol, bool addCounters) const;
+    std::vector<std::u16string> GetTxtFields(std::u16string_view data, bool incSymbol) const;
+    std::vector<std::u16string> GetDetailFields(std::u16string_view data, std::u16string_view detailName) const;
+    std::vector<std::u16string> GetDetails(bool incSymbol) const;
+    /// The selected source as "¬NAME" and its details as ":NAME".
+    std::vector<std::u16string> GetDataDetails(std::u16string_view data, bool incSymbol) const;
+    /// The fields of a source or detail named as in `GetDataDetails`.
+    std::vector<std::u16string> GetMasterDetailFields(std::u16string_view symName, bool incSymbol,
+                                                      bool excludeImg) const;
+
     // Title block, files, export
 
     /// Writes the drawing's title block out of the measure: all of it with `reset`, else the three texts.
@@ -387,6 +429,11 @@ private:
     void SelectOnly(TVGRBaseItem& item, TKSChange change);
     void FillBoxTexts();
     void FillBoxItems(TVGRLayer& layer);
+
+    // Data
+    void ActivateBindings();
+    void GoToLabel(std::int64_t label);
+    void WalkToLabel(std::int64_t label);
 
     bool fEditable = true;
     bool fShowDispWidthHandle = false;

@@ -4,6 +4,7 @@
 
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/foundation/Rounding.h>
 #include <vagrel/persistence/TJsonObject.h>
 
 #include <algorithm>
@@ -19,6 +20,36 @@ void TVGRBasePrintInfo::Store(std::int32_t& field, float value, TKSLMeasureType 
 
 void TVGRBasePrintInfo::SetNumLabs(std::int32_t value) { fLabs = std::max(value, 1); }
 void TVGRBasePrintInfo::SetRepetition(std::int32_t value) { fRepetition = std::max(value, 1); }
+
+// The sheet may have become smaller since the cell was chosen.
+std::int32_t TVGRBasePrintInfo::GetFirstRow() const { return std::min(fFirstRow, fOwner.GetMeasure().GetNuHor()); }
+std::int32_t TVGRBasePrintInfo::GetFirstCol() const { return std::min(fFirstCol, fOwner.GetMeasure().GetNuVer()); }
+void TVGRBasePrintInfo::SetFirstRow(std::int32_t value) {
+    fFirstRow = std::clamp(value, 1, fOwner.GetMeasure().GetNuHor());
+}
+void TVGRBasePrintInfo::SetFirstCol(std::int32_t value) {
+    fFirstCol = std::clamp(value, 1, fOwner.GetMeasure().GetNuVer());
+}
+
+void TVGRBasePrintInfo::SetFirstLab(std::int32_t value) {
+    fFirstLab = std::max(value, 1);
+    fLastLab = std::max(fLastLab, fFirstLab);
+}
+
+void TVGRBasePrintInfo::SetLastLab(std::int32_t value) {
+    fLastLab = std::max(value, 1);
+    fFirstLab = std::min(fFirstLab, fLastLab);
+}
+
+std::int32_t TVGRBasePrintInfo::LabelsPerPage() const {
+    const TVGRMeasure& measure = fOwner.GetMeasure();
+    return ToInt32(std::int64_t(measure.GetNuHor()) * measure.GetNuVer());
+}
+
+std::int32_t TVGRBasePrintInfo::FirstPageLabels() const {
+    const std::int64_t columns = fOwner.GetMeasure().GetNuVer();
+    return ToInt32(LabelsPerPage() - (GetFirstRow() - 1) * columns - (GetFirstCol() - 1));
+}
 
 void TVGRBasePrintInfo::SetPrinterIndex(std::int32_t value) {
     if (value == fPrinterIndex)

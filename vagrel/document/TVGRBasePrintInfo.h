@@ -16,7 +16,7 @@ class TBinaryWriter;
 class TJsonObject;
 class TVGRBaseLabel;
 
-/// Margins, counts and printer of a print run. The walk over labels and pages joins with the data merge.
+/// Margins, counts and printer of a print run, and how far it is. The document walks over labels and pages.
 class TVGRBasePrintInfo {
 public:
     explicit TVGRBasePrintInfo(TVGRBaseLabel& owner) : fOwner(owner) {}
@@ -52,6 +52,37 @@ public:
     /// Tells the document on a change.
     void SetPrinterIndex(std::int32_t value);
 
+    // Labels and pages count from 1.
+
+    /// The first cell used on the first sheet, inside the rows and columns of the measure.
+    std::int32_t GetFirstRow() const;
+    std::int32_t GetFirstCol() const;
+    void SetFirstRow(std::int32_t value);
+    void SetFirstCol(std::int32_t value);
+    /// A range of labels; drag the other end along where it would turn round.
+    std::int32_t GetFirstLab() const { return fFirstLab; }
+    std::int32_t GetLastLab() const { return fLastLab; }
+    void SetFirstLab(std::int32_t value);
+    void SetLastLab(std::int32_t value);
+    std::int32_t GetCopies() const { return fCopies; }
+    void SetCopies(std::int32_t value) { fCopies = value; }
+    bool GetFindDetail() const { return fFindDetail; }
+    void SetFindDetail(bool value) { fFindDetail = value; }
+
+    std::int32_t LabelsPerPage() const;
+    std::int32_t FirstPageLabels() const;
+    /// What `CheckPrintData` of the document found.
+    std::int32_t GetPagesToPrint() const { return fPagesToPrint; }
+    std::int32_t GetLabelsToPrint() const { return fLabelsToPrint; }
+    TKSLFillType GetFillType() const { return fFillType; }
+    /// The page that `GoToPage` of the document went to, 0 without a merge; its first label.
+    std::int32_t GetPage() const { return fFillType == ftNone ? 0 : fCurrentPage; }
+    std::int32_t GetCurrentLabel() const { return fCurrentLabel; }
+    /// The page whose preview copies were filled last; -1 for none.
+    std::int32_t GetLastPageFill() const { return fLastPageFill; }
+    /// For a host that makes new preview copies: the page is filled again.
+    void SetLastPageFill(std::int32_t value) { fLastPageFill = value; }
+
     void Assign(const TVGRBasePrintInfo& source);
 
     void WriteJson(TJsonObject& parent) const;
@@ -81,6 +112,8 @@ protected:
     std::int32_t fPrinterIndex = -99;
 
 private:
+    friend class TVGRBaseLabel; // keeps the state of the walk here
+
     float Restricted(std::int32_t base) const;
     void Store(std::int32_t& field, float value, TKSLMeasureType limit);
 };

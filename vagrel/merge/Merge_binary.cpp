@@ -42,7 +42,7 @@ void TVGRData::WriteData(TBinaryWriter& writer) const {
     writer.Write(std::int16_t(fCsvQuote));
     writer.Write(fCsvFileName);
     writer.Write(fCsvHeader);
-    const TVGRDataItem* csv = CsvSource();
+    const TVGRDatasetItem* csv = CsvSource();
     const TVGRFields none;
     const TVGRFields& fields = csv ? csv->fFields : none;
     writer.Write(std::int32_t(fields.size()));
@@ -67,8 +67,9 @@ void TVGRData::WriteData(TBinaryWriter& writer) const {
 }
 
 void TVGRData::ReadData(std::int32_t, TBinaryReader& reader) {
-    std::erase_if(fDatasets,
-                  [](const TVGRDataItem& source) { return source.fType == dtyJson || source.fType == dtyCsv; });
+    Close();
+    RemoveSources(dtyJson);
+    RemoveSources(dtyCsv);
     fListVal.clear();
     fListAsk.clear();
     fType = TKSLDataType(reader.Read<std::int16_t>());
@@ -89,7 +90,7 @@ void TVGRData::ReadData(std::int32_t, TBinaryReader& reader) {
         field.fFieldType = TKSLFieldType(reader.Read<std::int16_t>());
     }
     if (!fields.empty())
-        fDatasets.push_back({TVGRMsg::GetDialogsValue(u"CsvFile"), dtyCsv, std::move(fields), {}});
+        fDatasets.push_back({{TVGRMsg::GetDialogsValue(u"CsvFile"), dtyCsv, std::move(fields)}, {}});
     if (fOwner.GetEditorMode() != emLabelling)
         return;
     for (auto count = reader.Read<std::int32_t>(); count > 0; --count) {

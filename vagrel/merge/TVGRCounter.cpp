@@ -1,15 +1,25 @@
 // SPDX-License-Identifier: MIT
-// Ranges and JSON form of counters.
+// Ranges, values and JSON form of counters.
 #include <vagrel/merge/TVGRCounter.h>
 
 #include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/foundation/Numbers.h>
 #include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/Text.h>
 #include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 
 #include <algorithm>
+#include <limits>
 
 namespace vagrel {
+
+namespace {
+
+// Where a counter with a negative step ends.
+constexpr TInt128 Least = std::numeric_limits<std::int64_t>::min();
+
+} // namespace
 
 TVGRCounter::TVGRCounter(TVGRBaseLabel& owner) : fOwner(owner) { owner.Adopt(*this); }
 
@@ -18,20 +28,55 @@ TVGRCounter::~TVGRCounter() { fOwner.Forget(*this); }
 void TVGRCounter::SetNumFrom(std::int64_t value) {
     fNumFrom = value;
     fNumTo = std::max(fNumTo, value);
+    CalcNumLabs();
 }
 
 void TVGRCounter::SetNumTo(std::int64_t value) {
     fNumTo = value;
     fNumFrom = std::min(fNumFrom, value);
+    CalcNumLabs();
 }
 
-void TVGRCounter::SetRepeat(std::int16_t value) { fRepeat = std::max<std::int16_t>(value, 1); }
-void TVGRCounter::SetStep(std::int32_t value) { fStep = value == 0 ? 1 : value; }
+void TVGRCounter::SetRepeat(std::int16_t value) {
+    fRepeat = std::max<std::int16_t>(value, 1);
+    CalcNumLabs();
+}
+
+void TVGRCounter::SetStep(std::int32_t value) {
+    fStep = value == 0 ? 1 : value;
+    CalcNumLabs();
+}
 
 void TVGRCounter::CalcNumLabs() {
     const TInt128 values = (TInt128(fNumTo) - fNumFrom + 1) / fStep;
     constexpr TInt128 most = std::numeric_limits<std::int32_t>::max();
     fNumLabs = std::int32_t(std::clamp<TInt128>(std::clamp<TInt128>(values, -most, most) * fRepeat, -most, most));
+}
+
+void TVGRCounter::CalcValue() {
+    fValue = fBefore + (fFormat.empty() ? IntToStr(fCounter) : FormatFloat(fFormat, double(fCounter))) + fAfter;
+}
+
+void TVGRCounter::Reset() { MoveTo(1); }
+
+void TVGRCounter::Next() {
+    if (fRepeatPos < fRepeat) {
+        ++fRepeatPos;
+    } else if (const TInt128 next = TInt128(fCounter) + fStep; next >= Least && next <= fNumTo) {
+        fRepeatPos = 1;
+        fCounter = std::int64_t(next);
+        CalcValue();
+    }
+}
+
+void TVGRCounter::MoveTo(std::int64_t label) {
+    const std::int64_t before = std::max<std::int64_t>(label - 1, 0);
+    const TInt128 counter = fNumFrom + TInt128(before / fRepeat) * fStep;
+    const TInt128 last = fNumTo - (TInt128(fNumTo) - fNumFrom) % fStep;
+    const bool isPast = fStep > 0 && counter > last;
+    fCounter = std::int64_t(isPast ? last : std::max(counter, Least));
+    fRepeatPos = isPast ? fRepeat : std::int16_t(before % fRepeat + 1);
+    CalcValue();
 }
 
 void TVGRCounter::WriteJson(TJsonArray& counters) const {

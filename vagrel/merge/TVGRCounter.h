@@ -46,12 +46,26 @@ public:
     std::int32_t GetNumLabs() const { return fNumLabs; }
     void CalcNumLabs();
 
+    /// True while an item to be printed uses it.
+    bool GetActive() const { return fActive; }
+    void SetActive(bool value) { fActive = value; }
+    /// The text of the current number, empty before the first `Reset`.
+    const std::u16string& GetValue() const { return fValue; }
+    /// To the first number.
+    void Reset();
+    /// One label on. At the end of the range it stays on the last number.
+    void Next();
+    /// To a label, from 1: as so many steps from `Reset`.
+    void MoveTo(std::int64_t label);
+
     void WriteJson(TJsonArray& counters) const;
     void ReadJson(std::int32_t version, TJsonObject& json);
     void WriteData(TBinaryWriter& writer) const;
     void ReadData(std::int32_t version, TBinaryReader& reader);
 
 private:
+    void CalcValue();
+
     TVGRBaseLabel& fOwner;
     std::int64_t fNumFrom = 1, fNumTo = 100;
     std::int16_t fRepeat = 1;
@@ -60,7 +74,7 @@ private:
     std::int64_t fCounter = 0;
     std::int16_t fRepeatPos = 0;
     std::u16string fValue;
-    std::int32_t fNumLabs = 0;
+    std::int32_t fNumLabs = 100;
     bool fActive = false;
 };
 

@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
-// The description of data sources: derived from JSON text, stored with the document.
+// The sources: derived from JSON text and CSV files, selected by caption.
 #include <vagrel/merge/TVGRData.h>
 
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
+#include <vagrel/merge/DataRecords_p.h>
+#include <vagrel/merge/TCsvReader.h>
 #include <vagrel/messages/TVGRMsg.h>
 #include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/platform/Encoding.h>
+#include <vagrel/platform/Files.h>
 
 #include <algorithm>
 #include <optional>
@@ -15,6 +19,14 @@
 namespace vagrel {
 
 namespace {
+
+constexpr std::string_view Separators = ";;,\t ";
+constexpr std::string_view Quotes{"\0'\"", 3};
+
+// A value of a file that no enumeration has reads as the first one.
+char CharOf(std::string_view table, std::int32_t value) {
+    return table[value >= 0 && std::size_t(value) < table.size() ? std::size_t(value) : 0];
+}
 
 // The type of a field by the value that a template record has for it; nothing for an object.
 std::optional<TKSLFieldType> FieldTypeOf(TJsonDataType type) {
@@ -49,21 +61,35 @@ TVGRFields FieldsOf(TJsonObject& record) {
     return fields;
 }
 
-std::vector<TVGRDetailItem> DetailsOf(TJsonObject& record) {
-    std::vector<TVGRDetailItem> details;
+TVGRDetails DetailsOf(TJsonObject& record) {
+    TVGRDetails details;
     for (auto [name, value] : record) {
         if (value.GetTyp() != jdtArray)
             continue;
         TJsonObject* first = Template(value.NeedArray());
-        details.push_back({std::u16string(name), first ? FieldsOf(*first) : TVGRFields()});
+        details.push_back({{std::u16string(name), dtyJson, first ? FieldsOf(*first) : TVGRFields()}});
     }
     return details;
+}
+
+template <class List>
+auto Find(List& list, std::u16string_view caption) {
+    const auto found =
+        std::ranges::find_if(list, [&](const TVGRDataItem& item) { return SameText(item.fCaption, caption); });
+    return found == list.end() ? nullptr : &*found;
 }
 
 } // namespace
 
 TVGRData::TVGRData(TVGRBaseLabel& owner) : fOwner(owner) {}
 TVGRData::~TVGRData() = default;
+
+void TVGRData::Close() { fRecords.reset(); }
+
+void TVGRData::SetDatasets(TVGRDatasets value) {
+    Close();
+    fDatasets = std::move(value);
+}
 
 void TVGRData::SetJson(std::u16string_view value) {
     value = Trim(value);
@@ -73,8 +99,29 @@ void TVGRData::SetJson(std::u16string_view value) {
     CheckJson();
 }
 
+void TVGRData::SetDataSel(std::u16string_view name) {
+    if (name == fDataSel)
+        return;
+    Close();
+    fDataSel = name;
+    const TVGRDatasetItem* source = SelectedSource();
+    fType = source ? source->fType : dtyNone;
+}
+
+void TVGRData::MigrateDataSel(std::u16string_view name) {
+    if (name == fDataSel)
+        return;
+    Close();
+    fDataSel = name;
+    fType = dtyDataset;
+}
+
+void TVGRData::RemoveSources(TKSLDataType type) {
+    std::erase_if(fDatasets, [type](const TVGRDataItem& source) { return source.fType == type; });
+}
+
 void TVGRData::CheckJson() {
-    std::erase_if(fDatasets, [](const TVGRDataItem& source) { return source.fType == dtyJson; });
+    RemoveSources(dtyJson);
     if (!fJson.starts_with(u'{'))
         throw EVagrel(TVGRMsg::GetErrorValue(u"NoJson"));
     TJsonObject root;
@@ -82,7 +129,7 @@ void TVGRData::CheckJson() {
     for (auto [name, value] : root) {
         if (value.GetTyp() != jdtArray)
             continue;
-        TVGRDataItem source{std::u16string(name), dtyJson, {}, {}};
+        TVGRDatasetItem source{{std::u16string(name), dtyJson, {}}, {}};
         if (TJsonObject* record = Template(value.NeedArray())) {
             source.fFields = FieldsOf(*record);
             source.fDetails = DetailsOf(*record);
@@ -91,104 +138,126 @@ void TVGRData::CheckJson() {
     }
 }
 
+void TVGRData::SetCsvFileName(std::u16string_view value) {
+    if (value == fCsvFileName)
+        return;
+    fCsvFileName = value;
+    CheckCsvFields();
+}
+
+void TVGRData::SetCsvHeader(bool value) {
+    if (value == fCsvHeader)
+        return;
+    fCsvHeader = value;
+    CheckCsvFields();
+}
+
+void TVGRData::SetCsvSep(TKSLCsvSep value) {
+    if (value == fCsvSep)
+        return;
+    fCsvSep = value;
+    CheckCsvFields();
+}
+
+void TVGRData::SetCsvQuote(TKSLCsvQuote value) {
+    if (value == fCsvQuote)
+        return;
+    fCsvQuote = value;
+    CheckCsvFields();
+}
+
+bool TVGRData::SetCsvData(std::u16string_view file, bool hasHeader, TKSLCsvSep separator, TKSLCsvQuote quote) {
+    if (!FileExists(ToUtf8(file)))
+        throw EVagrel(TVGRMsg::GetErrorValue(u"NoFile"));
+    fCsvFileName = file, fCsvHeader = hasHeader, fCsvQuote = quote;
+    if (separator == scvNone)
+        throw EVagrel(TVGRMsg::GetErrorValue(u"NoSep"));
+    fCsvSep = separator;
+    return CheckCsvFields();
+}
+
+bool TVGRData::SetCsvField(int index, TKSLFieldType type) {
+    const TVGRDatasetItem* source = CsvSource();
+    if (index < 0 || !source)
+        return false;
+    TVGRFields& fields = fDatasets[std::size_t(source - fDatasets.data())].fFields;
+    if (std::size_t(index) < fields.size())
+        fields[std::size_t(index)].fFieldType = type;
+    return true;
+}
+
+TCsvReader TVGRData::ReadCsv() const {
+    const std::string name = ToUtf8(fCsvFileName);
+    if (!FileExists(name))
+        throw EVagrel(TVGRMsg::GetErrorValue(u"NoFile"));
+    std::string text = ReadFile(name);
+    if (text.starts_with("\xEF\xBB\xBF"))
+        text.erase(0, 3);
+    else
+        text = DecodeToUtf8(text, AnsiCodePage());
+    return TCsvReader(std::move(text), CharOf(Separators, fCsvSep), CharOf(Quotes, fCsvQuote));
+}
+
+bool TVGRData::CheckCsvFields() {
+    const TCsvReader lines = ReadCsv();
+    RemoveSources(dtyCsv);
+    if (lines.Count() == 0)
+        return true;
+    TCsvReader::TCells cells;
+    lines.Read(0, cells);
+    TVGRDatasetItem source{{TVGRMsg::GetDialogsValue(u"CsvFile"), dtyCsv, {}}, {}};
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        const std::u16string name =
+            fCsvHeader ? cells[i] : TVGRMsg::GetPropValue(u"Field") + IntToStr(std::int64_t(i) + 1);
+        source.fFields.emplace_back().SetName(name);
+    }
+    fDatasets.push_back(std::move(source));
+    return true;
+}
+
+const TVGRDatasetItem* TVGRData::GetDataset(std::u16string_view name) const { return Find(fDatasets, name); }
+
+const TVGRDetailItem* TVGRData::GetDetail(std::u16string_view name) const {
+    const TVGRDatasetItem* source = SelectedSource();
+    return source ? Find(source->fDetails, name) : nullptr;
+}
+
+TVGRDetailItem* TVGRData::GetDetail(std::u16string_view name) {
+    TVGRDatasetItem* source = Find(fDatasets, fDataSel);
+    return source ? Find(source->fDetails, name) : nullptr;
+}
+
+IKSLDataset* TVGRData::CurrentDataset() const {
+    const TVGRDatasetItem* source = fType == dtyDataset ? SelectedSource() : nullptr;
+    return source ? source->fDataset : nullptr;
+}
+
+std::int32_t TVGRData::GetCsvPos(std::u16string_view name) const {
+    const TVGRDatasetItem* source = SelectedSource();
+    if (!source)
+        return -1;
+    const auto field = std::ranges::find(source->fFields, name, &TVGRFieldItem::fCaption);
+    return field == source->fFields.end() ? -1 : std::int32_t(field - source->fFields.begin());
+}
+
+const TVGRDatasetItem* TVGRData::CsvSource() const {
+    const auto last = std::find_if(fDatasets.rbegin(), fDatasets.rend(),
+                                   [](const TVGRDataItem& source) { return source.fType == dtyCsv; });
+    return last == fDatasets.rend() ? nullptr : &*last;
+}
+
 void TVGRData::Unlink() {
+    Close();
     fLinkData = false;
     fJson.clear();
     fCsvFileName.clear();
 }
 
 void TVGRData::Assign(const TVGRData& s) {
+    Close();
     fDatasets = s.fDatasets, fJson = s.fJson, fType = s.fType, fLinkData = s.fLinkData, fSaveJson = s.fSaveJson;
     fDataSel = s.fDataSel, fFieldRepeat = s.fFieldRepeat, fCsvFileName = s.fCsvFileName, fCsvSep = s.fCsvSep;
     fCsvHeader = s.fCsvHeader, fCsvQuote = s.fCsvQuote, fListVal = s.fListVal, fListAsk = s.fListAsk;
-}
-
-const TVGRDataItem* TVGRData::CsvSource() const {
-    const auto last = std::find_if(fDatasets.rbegin(), fDatasets.rend(),
-                                   [](const TVGRDataItem& source) { return source.fType == dtyCsv; });
-    return last == fDatasets.rend() ? nullptr : &*last;
-}
-
-void TVGRData::WriteJson(TJsonObject& parent) const {
-    TJsonObject& json = parent.AddObject(u"Data");
-    json.SetInt(u"DataType", fType);
-    json.SetBool(u"LinkData", fLinkData);
-    json.SetString(u"DataSource", fDataSel);
-    json.SetString(u"FieldRepeat", fFieldRepeat);
-    json.SetBool(u"SaveJson", fSaveJson);
-    if (fSaveJson)
-        json.SetString(u"DataJson", fJson);
-    json.SetString(u"CsvFileName", fCsvFileName);
-    json.SetBool(u"CsvHeader", fCsvHeader);
-    json.SetInt(u"CsvSeparator", fCsvSep);
-    json.SetInt(u"CsvQuote", fCsvQuote);
-    TJsonArray& fields = json.AddArray(u"CsvFields");
-    if (const TVGRDataItem* csv = CsvSource()) {
-        for (const TVGRFieldItem& field : csv->fFields) {
-            TJsonObject& item = fields.AddObject();
-            item.SetString(u"Name", field.fName);
-            item.SetString(u"Caption", field.fCaption);
-            item.SetInt(u"FieldType", field.fFieldType);
-        }
-    }
-    if (fOwner.GetEditorMode() != emLabelling)
-        return;
-    TJsonArray& lists = json.AddArray(u"ValList");
-    for (const TKSValList& list : fListVal) {
-        TJsonObject& item = lists.AddObject();
-        item.SetString(u"Name", list.fName);
-        item.SetString(u"Values", JoinLines(list.fValues));
-    }
-    TJsonArray& questions = json.AddArray(u"ListAsk");
-    for (const TKSAskField& question : fListAsk) {
-        TJsonObject& item = questions.AddObject();
-        item.SetInt(u"AskType", question.fAskType);
-        item.SetString(u"Name", question.fName);
-        item.SetString(u"Question", question.fQuestion);
-    }
-}
-
-void TVGRData::ReadJson(std::int32_t, TJsonObject& json) {
-    fType = TKSLDataType(json.GetInt(u"DataType"));
-    fLinkData = json.GetBool(u"LinkData");
-    fDataSel = json.GetString(u"DataSource");
-    fFieldRepeat = json.GetString(u"FieldRepeat");
-    fSaveJson = json.GetBool(u"SaveJson");
-    fJson = fSaveJson ? json.GetString(u"DataJson") : std::u16string();
-    fCsvFileName = json.GetString(u"CsvFileName");
-    fCsvHeader = json.GetBool(u"CsvHeader");
-    fCsvSep = TKSLCsvSep(json.GetInt(u"CsvSeparator"));
-    fCsvQuote = TKSLCsvQuote(json.GetInt(u"CsvQuote"));
-    // Sources that stem from the texts of the document that stood here before go with it.
-    std::erase_if(fDatasets,
-                  [](const TVGRDataItem& source) { return source.fType == dtyJson || source.fType == dtyCsv; });
-    fListVal.clear();
-    fListAsk.clear();
-    TVGRFields fields;
-    TJsonArray& items = json.GetArray(u"CsvFields");
-    for (int i = 0; i < items.Count(); ++i) {
-        TJsonObject& item = items.GetObject(i);
-        fields.push_back(
-            {item.GetString(u"Name"), item.GetString(u"Caption"), TKSLFieldType(item.GetInt(u"FieldType"))});
-    }
-    if (!fields.empty())
-        fDatasets.push_back({TVGRMsg::GetDialogsValue(u"CsvFile"), dtyCsv, std::move(fields), {}});
-    if (fOwner.GetEditorMode() != emLabelling)
-        return;
-    TJsonArray& lists = json.GetArray(u"ValList");
-    for (int i = 0; i < lists.Count(); ++i) {
-        TJsonObject& item = lists.GetObject(i);
-        fListVal.push_back({item.GetString(u"Name"), {}, false, SplitLines(item.GetString(u"Values"))});
-    }
-    TJsonArray& questions = json.GetArray(u"ListAsk");
-    for (int i = 0; i < questions.Count(); ++i) {
-        TJsonObject& item = questions.GetObject(i);
-        TKSAskField question;
-        question.fAskType = TKSLAskType(item.GetInt(u"AskType"));
-        question.fName = item.GetString(u"Name");
-        question.fQuestion = item.GetString(u"Question");
-        fListAsk.push_back(std::move(question));
-    }
 }
 
 } // namespace vagrel

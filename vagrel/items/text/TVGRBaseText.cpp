@@ -8,6 +8,7 @@
 #include <vagrel/foundation/TVGRBaseDraw.h>
 #include <vagrel/foundation/Units.h>
 #include <vagrel/items/text/LabelPosition.h>
+#include <vagrel/merge/FillSymbols.h>
 #include <vagrel/merge/TVGRData.h>
 #include <vagrel/messages/TVGRMsg.h>
 
@@ -18,14 +19,6 @@ namespace vagrel {
 namespace {
 
 constexpr std::int32_t SmallestFont = 1000;
-
-// The characters in front of a field's name that tell its source.
-struct TPrefix {
-    char16_t mark;
-    TKSLFillType type;
-};
-constexpr TPrefix Prefixes[] = {{u'@', ftCounter}, {u'{', ftJson}, {u'~', ftField},
-                                {u'=', ftList},    {u'?', ftAsk},  {u'^', ftCsv}};
 
 } // namespace
 
@@ -178,9 +171,10 @@ void TVGRBaseText::SetData(TKSLFillType type, std::u16string_view name, std::u16
     if (name.find(TVGRMsg::GetListValue(u"Unassign")) != std::u16string_view::npos) {
         fField.clear();
     } else {
-        const auto prefix = name.empty() ? std::end(Prefixes) : std::ranges::find(Prefixes, name[0], &TPrefix::mark);
-        const bool marked = prefix != std::end(Prefixes);
-        fFillType = marked ? prefix->type : type;
+        // A blank stands for the kinds without a symbol.
+        const std::size_t symbol = name.empty() || name[0] == u' ' ? FillSymbols.npos : FillSymbols.find(name[0]);
+        const bool marked = symbol != FillSymbols.npos;
+        fFillType = marked ? TKSLFillType(symbol) : type;
         fField = marked ? name.substr(1) : name;
     }
     fFormat = format;

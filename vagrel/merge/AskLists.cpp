@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+// Value lists and questions: their names, which of them are in use, and the answers.
+#include <vagrel/merge/TVGRData.h>
+
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/foundation/Exceptions.h>
+#include <vagrel/foundation/Numbers.h>
+#include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/Text.h>
+#include <vagrel/merge/Merge_p.h>
+#include <vagrel/messages/TVGRMsg.h>
+
+#include <algorithm>
+
+namespace vagrel {
+
+namespace {
+
+template <class List>
+auto At(List& list, int index) {
+    return index >= 1 && std::size_t(index) <= list.size() ? &list[std::size_t(index - 1)] : nullptr;
+}
+
+template <class List>
+auto Find(List& list, std::u16string_view name) {
+    const auto found = std::ranges::find_if(list, [&](const auto& entry) { return SameText(entry.fName, name); });
+    return found == list.end() ? nullptr : &*found;
+}
+
+template <class Entry>
+bool Add(std::vector<Entry>& list, std::u16string_view name) {
+    if (std::ranges::find(list, name, &Entry::fName) != list.end())
+        return false;
+    list.emplace_back().fName = name;
+    return true;
+}
+
+template <class Entry>
+void Rename(std::vector<Entry>& list, int index, std::u16string_view name) {
+    Entry* entry = At(list, index);
+    if (!entry)
+        return;
+    if (name.empty())
+        throw EVagrel(TVGRMsg::GetErrorValue(u"EmptyText"));
+    const auto isTaken = [&](const Entry& other) { return &other != entry && SameText(other.fName, name); };
+    if (std::ranges::any_of(list, isTaken))
+        throw EVagrel(TVGRMsg::GetErrorValue(u"RepeatName"));
+    entry->fName = name;
+}
+
+template <class Entry>
+bool Delete(TVGRBaseLabel& owner, std::vector<Entry>& list, int index, TKSLFillType type) {
+    const Entry* entry = At(list, index);
+    if (!entry)
+        return false;
+    detail::Unbind(owner, type, entry->fName);
+    list.erase(list.begin() + (index - 1));
+    return true;
+}
+
+template <class Entry>
+bool IsActive(const Entry* entry) {
+    return entry && entry->fActive;
+}
+
+} // namespace
+
+void TKSValList::AddValue(std::u16string_view value) {
+    if (std::ranges::find(fValues, value) == fValues.end())
+        fValues.emplace_back(value);
+}
+
+std::u16string TKSAskField::Text(std::u16string_view format) const {
+    switch (fAskType) {
+    case atInteger:
+        return format.empty() ? IntToStr(fAnsInt) : FormatFloat(format, fAnsInt);
+    case atNumber:
+        return FormatFloat(format, fAnsNumber);
+    case atDateTime:
+        return FormatDateTime(format, fAnsDT);
+    default:
+        return fAnsText;
+    }
+}
+
+double TKSAskField::Number() const {
+    switch (fAskType) {
+    case atInteger:
+        return fAnsInt;
+    case atNumber:
+        return fAnsNumber;
+    case atDateTime:
+        return fAnsDT;
+    default:
+        return TryStrToFloat(fAnsText).value_or(0);
+    }
+}
+
+TKSValList* TVGRData::GetListVal(int index) { return At(fListVal, index); }
+TKSAskField* TVGRData::GetAskField(int index) { return At(fListAsk, index); }
+TKSValList* TVGRData::GetListVal(std::u16string_view name) { return Find(fListVal, name); }
+TKSAskField* TVGRData::GetAskField(std::u16string_view name) { return Find(fListAsk, name); }
+const TKSValList* TVGRData::GetListVal(std::u16string_view name) const { return Find(fListVal, name); }
+const TKSAskField* TVGRData::GetAskField(std::u16string_view name) const { return Find(fListAsk, name); }
+
+bool TVGRData::AddListVal(std::u16string_view name) { return Add(fListVal, name); }
+bool TVGRData::AddAskVal(std::u16string_view name) { return Add(fListAsk, name); }
+void TVGRData::SetListName(int index, std::u16string_view name) { Rename(fListVal, index, name); }
+void TVGRData::SetAskName(int index, std::u16string_view name) { Rename(fListAsk, index, name); }
+bool TVGRData::DeleteList(int index) { return Delete(fOwner, fListVal, index, ftList); }
+bool TVGRData::DeleteAsk(int index) { return Delete(fOwner, fListAsk, index, ftAsk); }
+
+bool TVGRData::NameListExists(std::u16string_view name) const { return IsActive(GetListVal(name)); }
+bool TVGRData::NameAskExists(std::u16string_view name) const { return IsActive(GetAskField(name)); }
+
+void TVGRData::ResetListAsk() {
+    fHasList = fHasQuest = false;
+    for (TKSValList& list : fListVal)
+        list.fActive = false;
+    for (TKSAskField& question : fListAsk)
+        question.fActive = false;
+}
+
+void TVGRData::ActivateList(std::u16string_view name) {
+    if (TKSValList* list = GetListVal(name))
+        list->fActive = fHasList = true;
+}
+
+void TVGRData::ActivateAsk(std::u16string_view name) {
+    if (TKSAskField* question = GetAskField(name))
+        question->fActive = fHasQuest = true;
+}
+
+std::u16string TVGRData::DataList(std::u16string_view name, std::u16string_view) const {
+    const TKSValList* list = GetListVal(name);
+    return list ? list->fAnsText : std::u16string(name);
+}
+
+std::u16string TVGRData::DataAsk(std::u16string_view name, std::u16string_view format) const {
+    const TKSAskField* question = GetAskField(name);
+    return question ? question->Text(format) : std::u16string(name);
+}
+
+std::int32_t TVGRData::DataAskInt(std::u16string_view name) const {
+    const TKSAskField* question = GetAskField(name);
+    if (!question)
+        return 0;
+    if (question->fAskType == atText)
+        return detail::IntegerOf(question->fAnsText);
+    return ToInt32(Trunc(question->Number()));
+}
+
+float TVGRData::DataAskNum(std::u16string_view name) const {
+    const TKSAskField* question = GetAskField(name);
+    return question ? float(question->Number()) : 0;
+}
+
+} // namespace vagrel
