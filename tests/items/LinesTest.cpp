@@ -136,7 +136,7 @@ TEST(Lines, SvgFollowsTheTemplates) {
     steps.CheckFit(extent);
     EXPECT_EQ(extent.minX, 97500); // the terminals reach further than the pen
     EXPECT_EQ(extent.maxY, 57500);
-    TSVGOutput out{svCurrentUnit, 3, true, {}, {}};
+    TSVGOutput out{svCurrentUnit, 3, true, false, {}, {}};
     line.WriteSVG(out);
     out.attrID = false;
     out.ExportType = svFactor;

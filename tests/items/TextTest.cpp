@@ -148,9 +148,11 @@ TEST_F(TextTest, SurvivesBothFileForms) {
     text.SetRadio(2);
     text.SetDispWidth(5000);
     text.SetData(ftNone, u"{name", u"0.0");
+    text.CalcValues(2);
     const auto json = text.WriteJson();
     MeasuredText fromJson(label, false);
     fromJson.ReadJson(3200, *json);
+    fromJson.CalcValues(2); // measured sizes are in no file
     EXPECT_EQ(fromJson.WriteJson()->ToJSON(), json->ToJSON());
     TBinaryWriter writer;
     text.WriteData(writer);
@@ -158,6 +160,7 @@ TEST_F(TextTest, SurvivesBothFileForms) {
     EXPECT_EQ(reader.Read<std::int32_t>(), itText);
     MeasuredText fromBinary(label, false);
     fromBinary.ReadData(3200, reader, rdNormal);
+    fromBinary.CalcValues(2);
     EXPECT_EQ(fromBinary.WriteJson()->ToJSON(), json->ToJSON());
     EXPECT_EQ(reader.Left(), 0u);
 }
