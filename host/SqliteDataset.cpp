@@ -9,7 +9,7 @@
 #include <vagrel/foundation/Text.h>
 
 #include <algorithm>
-#include <array>
+#include <chrono>
 #include <cstdio>
 
 #include <sqlite3.h>
@@ -51,11 +51,14 @@ TKSLFieldKind KindOfStorage(int type) {
 double ParseDateTime(const std::string& text) {
     TDateParts parts;
     const char* at = text.c_str();
-    int read = 0;
-    if (std::sscanf(at, "%4d-%2d-%2d%n", &parts.year, &parts.month, &parts.day, &read) == 3)
+    int read = 0, year = 0;
+    unsigned month = 0, day = 0;
+    if (std::sscanf(at, "%4d-%2u-%2u%n", &year, &month, &day, &read) == 3) {
+        if (!(std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day)).ok())
+            return 0;
+        parts = {year, int(month), int(day)};
         at += read + (at[read] != 0);
-    else
-        parts = {};
+    }
     std::sscanf(at, "%2d:%2d:%2d", &parts.hour, &parts.minute, &parts.second);
     return DateTimeOf(parts);
 }
