@@ -121,6 +121,7 @@ TEST(PageFill, GoesWhereAWalkGoes) {
             for (int i = 1; i <= info.GetLabelsToPrint(); ++i, label.NextData())
                 walked.push_back(standing());
             for (int page = info.GetPagesToPrint(); page >= 1; --page) {
+                label.GoToPage(1, false, true);
                 label.GoToPage(page, false, true);
                 const std::size_t first = std::size_t(info.GetCurrentLabel() - 1);
                 ASSERT_LT(first, walked.size());

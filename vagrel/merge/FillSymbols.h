@@ -11,6 +11,7 @@ namespace vagrel {
 
 /// The symbols of `TKSLFillType`, a blank where there is none.
 constexpr std::u16string_view FillSymbols = u" ~@{^?=@@@ ";
+static_assert(FillSymbols[ftList] == u'=' && FillSymbols.size() == ftImg64 + 1);
 
 /// A name with the symbol of its source in front.
 inline std::u16string IncSymData(TKSLFillType type, std::u16string_view name) {

@@ -96,11 +96,12 @@ void TVGRBaseLabel::GoToPage(std::int32_t page, bool fillData, bool check) {
         FillDataPage(page);
 }
 
-// With one number of copies for all records, the record is computed.
+// With one number of copies for all records, the record is computed. Where counters give more labels than the source,
+// the last record stays, as in a walk.
 void TVGRBaseLabel::GoToLabel(std::int64_t label) {
     const std::int64_t copies = fPrintInfo->GetRepetition();
     const std::int64_t before = (label - 1) / copies;
-    fData->SetPos(ToInt32(before + 1));
+    fData->SetPos(ToInt32(std::min<std::int64_t>(before + 1, fData->RecordCount())));
     fData->SetPosRepeat(ToInt32(label - copies * before));
     if (detail::RunsOnCounters(fPrintInfo->fFillType))
         detail::ForActiveCounters(*this, [label](TVGRCounter& counter) { counter.MoveTo(label); });

@@ -84,7 +84,11 @@ auto Find(List& list, std::u16string_view caption) {
 TVGRData::TVGRData(TVGRBaseLabel& owner) : fOwner(owner) {}
 TVGRData::~TVGRData() = default;
 
-void TVGRData::Close() { fRecords.reset(); }
+// Until the next `Reset` there are no values.
+void TVGRData::Close() {
+    fRecords.reset();
+    fHasData = false;
+}
 
 void TVGRData::SetDatasets(TVGRDatasets value) {
     Close();
@@ -138,33 +142,18 @@ void TVGRData::CheckJson() {
     }
 }
 
-void TVGRData::SetCsvFileName(std::u16string_view value) {
-    if (value == fCsvFileName)
+template <class Value>
+void TVGRData::StoreCsv(Value& field, const Value& value) {
+    if (value == field)
         return;
-    fCsvFileName = value;
+    field = value;
     CheckCsvFields();
 }
 
-void TVGRData::SetCsvHeader(bool value) {
-    if (value == fCsvHeader)
-        return;
-    fCsvHeader = value;
-    CheckCsvFields();
-}
-
-void TVGRData::SetCsvSep(TKSLCsvSep value) {
-    if (value == fCsvSep)
-        return;
-    fCsvSep = value;
-    CheckCsvFields();
-}
-
-void TVGRData::SetCsvQuote(TKSLCsvQuote value) {
-    if (value == fCsvQuote)
-        return;
-    fCsvQuote = value;
-    CheckCsvFields();
-}
+void TVGRData::SetCsvFileName(std::u16string_view value) { StoreCsv(fCsvFileName, std::u16string(value)); }
+void TVGRData::SetCsvHeader(bool value) { StoreCsv(fCsvHeader, value); }
+void TVGRData::SetCsvSep(TKSLCsvSep value) { StoreCsv(fCsvSep, value); }
+void TVGRData::SetCsvQuote(TKSLCsvQuote value) { StoreCsv(fCsvQuote, value); }
 
 bool TVGRData::SetCsvData(std::u16string_view file, bool hasHeader, TKSLCsvSep separator, TKSLCsvQuote quote) {
     if (!FileExists(ToUtf8(file)))

@@ -108,6 +108,8 @@ public:
     std::int32_t GetPosRepeat() const { return fPosRepeat; }
     void SetPosRepeat(std::int32_t value) { fPosRepeat = value; }
     std::int32_t GetRecordRepeat() const { return fRecordRepeat; }
+    /// Records of the source that is open, else 0.
+    std::int32_t RecordCount() const;
     /// Labels that the source gives in all.
     std::int32_t GetNumlabels() const { return fNumlabels; }
     bool GetHasData() const { return fHasData; }
@@ -185,6 +187,8 @@ public:
 private:
     const TVGRDatasetItem* CsvSource() const;
     void RemoveSources(TKSLDataType type);
+    template <class Value>
+    void StoreCsv(Value& field, const Value& value);
     bool OpenRecords();
     void Close();
     void Load();

@@ -42,7 +42,7 @@ void TVGRData::Load() {
 
 // Copies of the current record. A negative count gives none.
 std::int32_t TVGRData::Repeat() const {
-    if (!fFieldRepeat.empty() && fRecords && fRecords->Count() > 0)
+    if (!fFieldRepeat.empty() && RecordCount() > 0)
         if (const auto repeat = fRecords->Repeat(fFieldRepeat))
             return std::max(*repeat, 0);
     return fOwner.GetPrintInfo().GetRepetition();
@@ -110,8 +110,10 @@ void TVGRData::Next() {
     fPosRepeat = 1;
 }
 
+std::int32_t TVGRData::RecordCount() const { return fRecords ? fRecords->Count() : 0; }
+
 void TVGRData::SetPos(std::int32_t record) {
-    if (!fLinkData || !fRecords || record < 1 || record > fRecords->Count())
+    if (!fLinkData || record < 1 || record > RecordCount())
         return;
     fPos = record + fRecords->HeaderLines();
     fPosRepeat = 1;

@@ -69,7 +69,7 @@ bool IsDataset(const TVGRDetailItem& detail) { return detail.fType == dtyDataset
 } // namespace
 
 TJsonArray* TVGRData::Rows(const TVGRDetailItem& detail) const {
-    TJsonObject* master = fLinkData && fRecords && fRecords->Count() > 0 ? fRecords->Json() : nullptr;
+    TJsonObject* master = fLinkData && RecordCount() > 0 ? fRecords->Json() : nullptr;
     return master ? master->FindArray(detail.fCaption) : nullptr;
 }
 

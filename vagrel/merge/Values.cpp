@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The values that items take from the document, and its counters by name.
-#include <vagrel/document/Owned_p.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/foundation/Numbers.h>
 #include <vagrel/foundation/Text.h>
@@ -83,7 +82,9 @@ bool TVGRBaseLabel::RemoveCounter(TVGRCounter* counter) {
     if (found == fCounters.end())
         return false;
     detail::Unbind(*this, ftCounter, counter->GetName());
-    detail::TakeOut(fCounters, std::size_t(found - fCounters.begin()));
+    // Out of the list first: a counter that dies looks for itself there.
+    const std::unique_ptr<TVGRCounter> dying = std::move(*found);
+    fCounters.erase(found);
     return true;
 }
 
