@@ -9,17 +9,19 @@
 namespace vagrel {
 namespace {
 
+std::uintptr_t AddressOf(const TComponent* component) { return reinterpret_cast<std::uintptr_t>(component); }
+
 class TListener : public TComponent {
 public:
     using TComponent::TComponent;
-    std::vector<TComponent*> fGone;
+    std::vector<std::uintptr_t> fGone;   // addresses: the components are gone when they are compared
     std::unique_ptr<TComponent> fVictim; // deleted with the first notice
 
 protected:
     void Notification(TComponent* component, TOperation operation) override {
         TComponent::Notification(component, operation);
         if (operation == opRemove)
-            fGone.push_back(component);
+            fGone.push_back(AddressOf(component));
         fVictim.reset();
     }
 };
@@ -27,13 +29,13 @@ protected:
 TEST(TComponent, TellsBothSidesOnce) {
     TListener left;
     auto right = std::make_unique<TListener>(), other = std::make_unique<TListener>();
-    TComponent *const first = right.get(), *const second = other.get();
+    const std::vector<std::uintptr_t> both{AddressOf(right.get()), AddressOf(other.get())};
     left.FreeNotification(*right);
     right->FreeNotification(left); // the same tie
     left.FreeNotification(left);
     other->FreeNotification(left);
     right.reset(), other.reset();
-    EXPECT_EQ(left.fGone, (std::vector<TComponent*>{first, second}));
+    EXPECT_EQ(left.fGone, both);
 }
 
 TEST(TComponent, ForgetsItsOwner) {
