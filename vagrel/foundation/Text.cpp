@@ -63,16 +63,20 @@ std::int32_t Decode(std::string_view bytes, std::size_t pos, std::size_t& length
 
 constexpr std::size_t Group = sizeof(std::uint64_t);
 
+// Four bytes as four units.
+constexpr std::uint64_t Spread(std::uint64_t bytes) {
+    bytes = (bytes | bytes << 16) & 0x0000FFFF0000FFFF;
+    return (bytes | bytes << 8) & 0x00FF00FF00FF00FF;
+}
+
 // Widens a group of bytes; how many of them lead it in ASCII and so are decoded.
 std::size_t WidenGroup(const char* from, char16_t* to) {
     static_assert(std::endian::native == std::endian::little);
-    unsigned char bytes[Group];
-    std::memcpy(bytes, from, Group);
-    for (std::size_t i = 0; i < Group; ++i)
-        to[i] = bytes[i];
-    std::uint64_t word;
-    std::memcpy(&word, bytes, Group);
-    return std::size_t(std::countr_zero(word & 0x8080808080808080)) / 8;
+    std::uint64_t bytes;
+    std::memcpy(&bytes, from, sizeof bytes);
+    const std::uint64_t units[] = {Spread(bytes & 0xFFFFFFFF), Spread(bytes >> 32)};
+    std::memcpy(to, units, sizeof units);
+    return std::size_t(std::countr_zero(bytes & 0x8080808080808080)) / 8;
 }
 
 } // namespace
