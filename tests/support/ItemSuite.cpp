@@ -60,7 +60,7 @@ const TItemSample Samples[] = {
      "Filled FillColor LineType StartAngle SweepAngle ",
      17,
      Preview<TVGRBaseSector>,
-     "ID Options Angle Points StartAngle SweepAngle "},
+     "ID Angle Options Points StartAngle SweepAngle "},
 };
 
 } // namespace
