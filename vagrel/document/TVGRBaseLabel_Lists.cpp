@@ -95,21 +95,18 @@ void TVGRBaseLabel::Adopt(TVGRBaseItem& item) {
 }
 
 void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
-    if (!Release(fItems, item))
-        Release(fPreview, item);
+    ForgetCommands(item);
+    Release(item.FromPreview() ? fPreview : fItems, item);
     std::erase(fSelection, &item);
     std::erase(fLinks, &item);
     std::erase(fCalcs, &item);
     std::erase_if(fSelPoint, [&](const TKSSelectionValue& handle) { return handle.Item == &item; });
-    const std::scoped_lock guard(fCriticalSection);
-    const std::int32_t id = item.GetInID();
-    std::erase_if(fIntersect,
-                  [id](const TIntSecPoint& crossing) { return crossing.fID1 == id || crossing.fID2 == id; });
+    RemoveElementFromIntersections(item.GetInID());
 }
 
 void TVGRBaseLabel::FreeItem(TVGRBaseItem& item) {
-    if (const int index = IndexOf(fItems, item); index >= 0)
-        detail::TakeOut(fItems, std::size_t(index));
+    if (!item.FromPreview())
+        delete &item; // takes itself out
 }
 
 void TVGRBaseLabel::FreeItems(TOwned<TVGRBaseItem>& items) {

@@ -269,11 +269,8 @@ void TVGRBaseLabel::Clear(TKSLClearSet what, bool paint) {
     const bool freesItems = holds(cleItems) && !fItems.empty();
     const bool unselects = (holds(cleItems) || what.Has(cleSelection)) && !fSelection.empty();
 
-    if (holds(cleUndoRedo)) {
-        fUnReID = 0;
-        if (OnUndoRedo && !fDestroying)
-            OnUndoRedo(*this, true, true);
-    }
+    if (holds(cleUndoRedo))
+        ClearCommands();
     if (holds(cleItems) || what.Has(cleSelection)) {
         ClearSelectionLists();
         ChangeValue(chClearSelect);
@@ -389,6 +386,8 @@ bool TVGRBaseLabel::DoDblClick() {
 // Handles and crossings join with the editor; until then there are none to rebuild.
 
 void TVGRBaseLabel::FillSelPoints() { fSelPoint.clear(); }
+void TVGRBaseLabel::FillRefLines() { ResetRefLines(); }
+void TVGRBaseLabel::FillLinkList() { fLinks.clear(); }
 void TVGRBaseLabel::CheckIntersetions() {}
 
 void TVGRBaseLabel::ResetRefLines() {
@@ -404,6 +403,12 @@ void TVGRBaseLabel::ResetMultiDragState() {
 void TVGRBaseLabel::EmptyIntersect() {
     const std::scoped_lock guard(fCriticalSection);
     fIntersect.clear();
+}
+
+void TVGRBaseLabel::RemoveElementFromIntersections(std::int32_t id) {
+    const std::scoped_lock guard(fCriticalSection);
+    std::erase_if(fIntersect,
+                  [id](const TIntSecPoint& crossing) { return crossing.fID1 == id || crossing.fID2 == id; });
 }
 
 void TVGRBaseLabel::AddIntersection(TKSLPto point, std::int32_t id1, std::int32_t id2) {

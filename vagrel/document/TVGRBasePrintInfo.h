@@ -23,6 +23,14 @@ struct TSheetCell {
     std::int64_t x = 0, y = 0;
 };
 
+/// Where the data stands: the label, the record and its copy.
+struct TDataPlace {
+    std::int64_t label = 0;
+    std::int32_t record = 0, copy = 0;
+
+    bool operator==(const TDataPlace&) const = default;
+};
+
 /// Margins, counts and printer of a print run, and how far it is. The document walks over labels and pages.
 class TVGRBasePrintInfo {
 public:
@@ -113,6 +121,7 @@ protected:
     std::int32_t fPagesToPrint = 0;
     std::int32_t fLabelsToPrint = 0;
     std::int32_t fLastPageFill = -1;
+    TDataPlace fFilledTo;
     bool fFindDetail = false;
     std::int32_t fCurrentPage = 0;
     std::int32_t fCurrentLabel = 0;
