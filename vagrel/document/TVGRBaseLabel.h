@@ -3,7 +3,8 @@
 //
 // The body of this class is spread by topic: TVGRBaseLabel.cpp (life, identifiers), _Update (update cycle, reading
 // bracket, clearing), _Units (units and values), _Lists (accessors, ownership, layers), _io (JSON), TitleBlock.cpp,
-// _Undo (undo stacks), Selection.cpp, Selection_Move.cpp, Arrange.cpp, svg/SaveSVG.cpp, merge/PageFill.cpp, merge/Values.cpp, merge/FieldLists.cpp.
+// _Undo (undo stacks), Selection.cpp, Selection_Move.cpp, Arrange.cpp, svg/SaveSVG.cpp, merge/PageFill.cpp,
+// merge/Values.cpp, merge/FieldLists.cpp.
 #pragma once
 
 #include <vagrel/document/Events.h>
@@ -257,8 +258,8 @@ public:
     /// Keeps the state of a property that is about to change. Items call it through TVGRCmd.h.
     void Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t index);
 
-    // Selection and arrangement. What moves through base units is recorded; a command that arranges is one step. Where a
-    // result is given, false says that nothing moved.
+    // Selection and arrangement. What moves through base units is recorded; a command that arranges is one step. Where
+    // a result is given, false says that nothing moved.
 
     /// The first selected item, the reference of the commands that arrange; null for none.
     TVGRBaseItem* Select() const { return GetSelection(1); }
@@ -302,8 +303,8 @@ public:
     /// The others on the middle of the first; a single item on the middle of the label.
     void CenterHorizontal() { CenterSelection(anHorz); }
     void CenterVertical() { CenterSelection(anVert); }
-    /// Sorts the selection along the axis and sets it apart by a gap in the document's unit, or evenly between the first
-    /// and the last for -1. Needs three items; a single one goes to the middle of the label.
+    /// Sorts the selection along the axis and sets it apart by a gap in the document's unit, or evenly between the
+    /// first and the last for -1. Needs three items; a single one goes to the middle of the label.
     void SpaceHorizontal(float gap) { SpaceSelection(anHorz, gap); }
     void SpaceVertical(float gap) { SpaceSelection(anVert, gap); }
     void SameWidth() { SameSize(anHorz); }
