@@ -3,6 +3,10 @@
 #include <host/ItemRegistry.h>
 
 #include <host/HostItem.h>
+#include <vagrel/barcode/TVGRBaseBarcode.h>
+#include <vagrel/barcode/TVGRBaseDataMatrix.h>
+#include <vagrel/barcode/TVGRBasePDF417.h>
+#include <vagrel/barcode/TVGRBaseQRCode.h>
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRBasePoint.h>
 #include <vagrel/foundation/Text.h>
@@ -43,7 +47,9 @@ constexpr TRow Rows[] = {
     {itPolyLine, Counted<TVGRBasePolyLine>}, {itRectangle, Fixed<TVGRBaseRectangle>},
     {itPolygon, Counted<TVGRBasePolygon>},   {itCircle, Fixed<TVGRBaseCircle>},
     {itEllipse, Fixed<TVGRBaseEllipse>},     {itBezier, Counted<TVGRBaseBezier>},
-    {itSector, Fixed<TVGRBaseSector>},
+    {itSector, Fixed<TVGRBaseSector>},       {itBarcode, Fixed<TVGRBaseBarcode>},
+    {itPDF417, Fixed<TVGRBasePDF417>},       {itDataMatrix, Fixed<TVGRBaseDataMatrix>},
+    {itQRCode, Fixed<TVGRBaseQRCode>},
 };
 
 } // namespace
