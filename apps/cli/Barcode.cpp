@@ -9,6 +9,7 @@
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Numbers.h>
+#include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/foundation/Units.h>
 #include <vagrel/messages/ListNames.h>
@@ -82,8 +83,8 @@ void Set(float asked, const char* option, int type, IKSLBar1D2D& code, float (IK
         return;
     (code.*set)(asked);
     if (std::fabs((code.*get)() - asked) > 0.0006f)
-        throw CLI::ValidationError(option,
-                                   NameOf(type) + " takes " + ToUtf8(FloatToStr((code.*get)())) + " mm or more");
+        throw CLI::ValidationError(option, NameOf(type) + " takes " + ToUtf8(FloatToStr(RoundTo3((code.*get)()))) +
+                                               " mm or more");
 }
 
 void Shape(TVGRBaseCode& code, const TArguments& arguments) {
@@ -163,7 +164,7 @@ void Describe(const TVGRBaseCode& code, const TArguments& arguments) {
             std::u16string row;
             for (int x = 0; x < grid.columns; ++x)
                 row += grid.IsDark(x, y) ? u'1' : u'0';
-            rows.AddString(row);
+            rows.Add(std::u16string_view(row));
         }
     }
     Print(json.ToUtf8JSON(false) + "\n");

@@ -15,6 +15,8 @@ namespace {
 constexpr TCodeSizes Sizes{300, 600, 3000, 0, 100, 260};
 constexpr int MostCols = 30, MostRows = 90;
 constexpr std::uint16_t Padding = 900;
+// The first word counts those that are no correction, and there is no pattern for a higher one.
+constexpr int HighestWord = 928;
 
 std::int16_t Limited(int value, int most) { return std::int16_t(std::clamp(value, 0, most)); }
 
@@ -43,8 +45,9 @@ void TVGRBasePDF417::StoreGrid(std::int16_t& field, int value, int most) {
 }
 
 bool TVGRBasePDF417::ValidCode() const {
-    return fEncoded && fXCount <= MostCols && fYCount <= MostRows &&
-           fEncoder.GetUsedCWords() + fNumErrorCWords <= fXCount * fYCount;
+    const int room = fXCount * fYCount - fNumErrorCWords;
+    return fEncoded && fXCount <= MostCols && fYCount <= MostRows && room >= fEncoder.GetUsedCWords() &&
+           room <= HighestWord;
 }
 
 void TVGRBasePDF417::AdjustErrorLevel() {

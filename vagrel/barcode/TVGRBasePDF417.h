@@ -28,7 +28,8 @@ public:
     /// The grid in effect.
     int XCount() const { return fXCount; }
     int YCount() const { return fYCount; }
-    /// Whether the words of the text fit the grid.
+    /// Whether the words of the text fit the grid, and the grid, filled up, has no more than 928 words beside its
+    /// correction.
     bool ValidCode() const;
     bool IsValid() const override { return ValidCode(); }
     void Encode() final;
