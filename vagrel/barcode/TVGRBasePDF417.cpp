@@ -41,7 +41,7 @@ void TVGRBasePDF417::StoreGrid(std::int16_t& field, int value, int most) {
     field = std::int16_t(value);
     Encode();
     UpdatePoints();
-    StateCalc();
+    StateUpdate();
 }
 
 bool TVGRBasePDF417::ValidCode() const {
