@@ -3,6 +3,7 @@
 #include "Commands.h"
 
 #include <host/HostLabel.h>
+#include <host/PageWriter.h>
 #include <vagrel/barcode/TPDF417.h>
 #include <vagrel/barcode/TVGRBaseBarcode.h>
 #include <vagrel/barcode/TVGRBaseMatrixCode.h>
@@ -31,6 +32,9 @@ struct TArguments {
     float module = 0, height = 0; // 0: as the kind has it
     bool noText = false, check = false, json = false, list = false;
 };
+
+// Of a picture: a narrow bar of 0.3 mm has seven pixels.
+constexpr double Dpi = 600;
 
 // Kinds that are not linear have numbers behind those that are.
 enum { QR = btPOSTNET + 1, DataMatrix, Pdf417 };
@@ -170,14 +174,13 @@ void Describe(const TVGRBaseCode& code, const TArguments& arguments) {
     Print(json.ToUtf8JSON(false) + "\n");
 }
 
-void Export(HostLabel& label, const std::string& out) {
-    const std::u16string name = FromUtf8(out);
+void Export(const HostLabel& label, const std::string& out) {
     if (out.empty())
-        Print(label.SVG(svCurrentUnit, 1, false, true));
-    else if (out.ends_with(".svg"))
-        label.SaveSVG(name, svCurrentUnit, 1, false, true);
-    else
-        label.ExportDoc(out.ends_with(".pdf") ? exPDF : exPNG, name, 1, 1, 100, false, false, false);
+        return Print(label.SVG(svCurrentUnit, 1, false, true));
+    const TPageStyle style{.view = TPageView::Label, .dpi = Dpi, .svgPortable = true};
+    const auto pages = OpenPages(out, PageKindOf(out), style, 1);
+    pages->Add(label);
+    pages->Commit();
 }
 
 void List() {
@@ -192,9 +195,8 @@ void Run(const TArguments& arguments, bool complete) {
         return List();
     if (!complete)
         throw CLI::ValidationError("barcode", "TYPE and TEXT are required, or --list");
-    if (!arguments.out.empty() && !arguments.out.ends_with(".svg") && !arguments.out.ends_with(".png") &&
-        !arguments.out.ends_with(".pdf"))
-        throw CLI::ValidationError("OUT", "\"" + arguments.out + "\" ends in none of .svg, .png, .pdf");
+    if (!arguments.out.empty())
+        PageKindOf(arguments.out); // refuses a name before anything is printed
     HostLabel label;
     TVGRBaseCode& code = MakeCode(label, arguments);
     Shape(code, arguments);
@@ -216,7 +218,8 @@ void AddBarcode(CLI::App& app) {
         ->type_name("");
     CLI::Option* text = command->add_option("TEXT", arguments->text, "what to encode")->type_name("");
     command
-        ->add_option("-o,--output", arguments->out, "the file: .svg, .png or .pdf; SVG on standard output without it")
+        ->add_option("-o,--output", arguments->out,
+                     "the file: .svg, .png, .pdf, .jpg or .bmp; SVG on standard output without it")
         ->type_name("FILE");
     command->add_option("--module", arguments->module, "width of a narrow bar or of a module, millimetres")
         ->check(Between(0.01, 100))

@@ -94,7 +94,9 @@ run 2 'none of EAN13' barcode EAN14 1
 run 2 'TEXT' barcode EAN13
 run 2 'only linear' barcode QR x --check
 run 2 'takes 0.19 mm or more' barcode QR x --module 0.1
-run 2 '.png' barcode QR x -o code.gif
+run 1 'png' barcode QR x -o code.gif
+run 0 '' barcode QR x -o code.png
+run 0 '' barcode EAN8 1234567 --check -o code.pdf
 
 # Bad input; what stands at the target stays.
 echo keep >target

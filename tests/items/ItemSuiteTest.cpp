@@ -60,7 +60,10 @@ TEST_P(EveryItem, SurvivesTheBinaryForm) {
     item->Write(writer);
     const std::string& bytes = writer.Bytes();
     Drawing other;
-    const TVGRBaseItem& copy = other.CreateElementFromStream(bytes);
+    const TVGRBaseItem& copy = [&]() -> TVGRBaseItem& {
+        const UpdateScope measuring(other);
+        return other.CreateElementFromStream(bytes);
+    }();
     EXPECT_EQ(Form(copy), Form(*item));
     EXPECT_EQ(copy.BoundsRect(), item->BoundsRect());
     for (std::size_t size = 0; size < bytes.size(); ++size)

@@ -17,6 +17,7 @@
 #include <vagrel/items/figures/TVGRBaseSector.h>
 #include <vagrel/items/lines/TVGRBaseLine.h>
 #include <vagrel/items/lines/TVGRBasePolyLine.h>
+#include <vagrel/items/text/TVGRBaseText.h>
 
 #include <gtest/gtest.h>
 
@@ -36,6 +37,8 @@ TVGRBaseItem& Preview(TVGRBaseLabel& label) {
 const TKSLPtoA Box{{100000, 100000}, {200000, 180000}};
 const TKSLPtoA Square{{100000, 100000}, {200000, 200000}};
 const TKSLPtoA Zigzag{{100000, 100000}, {150000, 180000}, {200000, 100000}, {250000, 180000}};
+
+constexpr std::u16string_view SampleText = u"<\"";
 
 const TItemSample Samples[] = {
     {itPoint, {{150000, 120000}}, {150000, 120000}, snPoint, "", 0, Preview<TVGRBasePoint>},
@@ -58,6 +61,13 @@ const TItemSample Samples[] = {
      "Filled FillColor LineType FromType SizeFrom FromColor ToType SizeTo ToColor ",
      29,
      Preview<TVGRBaseBezier>},
+    {itText,
+     {{150000, 120000}},
+     {150000, 120000},
+     {},
+     "HorzAlign VertAlign DispWidth ScaleX Font Radio PaddingX PaddingY Filled BackColor Text Data ",
+     43 + (1 + 5) + (1 + SampleText.size()) + 1 + 1,
+     Preview<TVGRBaseText>},
     {itSector,
      Square,
      {150000, 100000},
@@ -116,10 +126,14 @@ const TItemSample* SampleOf(TKSLItemType type) {
 TVGRBaseItem& MakeSample(TVGRBaseLabel& label, const TItemSample& sample) {
     TVGRBaseItem& item = MakeItem(label, label.ActiveLayer(), sample.type, int(sample.points.size()));
     item.AssignPoints(sample.points);
+    const UpdateScope measuring(label);
+    if (auto* text = Query<IKSLText>(&item))
+        text->SetText(SampleText);
     return item;
 }
 
 void SetEverything(TVGRBaseItem& item) {
+    const UpdateScope measuring(item.KSLab());
     item.SetID(u"My Item ñ 1");
     item.SetOptions({lopVisible, lopExport});
     Put(item, &IKSLStroke::GetColor, &IKSLStroke::SetColor, 0x80102030u);
@@ -142,6 +156,20 @@ void SetEverything(TVGRBaseItem& item) {
     Put(item, &IKSLCenter::GetCenterX, &IKSLCenter::SetCenterX, 20.25f);
     Put(item, &IKSLCenter::GetCenterY, &IKSLCenter::SetCenterY, 15.75f);
     Put(item, &IKSLAngle::GetAngle, &IKSLAngle::SetAngle, ag180);
+    Put(item, &IKSLAlign::GetHorzAlign, &IKSLAlign::SetHorzAlign, haCenter);
+    Put(item, &IKSLAlign::GetVertAlign, &IKSLAlign::SetVertAlign, vaBottom);
+    Put(item, &IKSLPadding::GetPaddingX, &IKSLPadding::SetPaddingX, 1.5f);
+    Put(item, &IKSLPadding::GetPaddingY, &IKSLPadding::SetPaddingY, 0.75f);
+    Put(item, &IKSLFont::GetFontHeight, &IKSLFont::SetFontHeight, 7.5f);
+    Put(item, &IKSLFont::GetFontColor, &IKSLFont::SetFontColor, 0xFF8040C0u);
+    Put(item, &IKSLFont::GetScaleX, &IKSLFont::SetScaleX, 1.25f);
+    Put(item, &IKSLFont::GetBold, &IKSLFont::SetBold, true);
+    Put(item, &IKSLFont::GetItalic, &IKSLFont::SetItalic, true);
+    Put(item, &IKSLFont::GetUnderline, &IKSLFont::SetUnderline, true);
+    if (auto* font = Query<IKSLFont>(&item)) {
+        font->SetFontName(u"Verdana");
+        font->SetStrikeout(true);
+    }
     Put(item, &IKSLSTerm::GetFromType, &IKSLSTerm::SetFromType, ttFillArrow);
     Put(item, &IKSLSTerm::GetToType, &IKSLSTerm::SetToType, ttCross);
     Put(item, &IKSLSTerm::GetFromColor, &IKSLSTerm::SetFromColor, 0xFF00FF00u);

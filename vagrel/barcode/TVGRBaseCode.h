@@ -39,6 +39,9 @@ public:
     float GetFactor() const override { return fFactor; }
     float GetPaddingX() const override { return ToUnit(fPaddingX); }
     float GetPaddingY() const override { return ToUnit(fPaddingY); }
+    /// On paper.
+    std::int32_t BaseBarWidth() const { return fBarWidth; }
+    std::int32_t BaseBarHeight() const { return fBarHeight; }
     /// Not negative.
     void SetPaddingX(float value) override { StorePadding(fPaddingX, value); }
     void SetPaddingY(float value) override { StorePadding(fPaddingY, value); }

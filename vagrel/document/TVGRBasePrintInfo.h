@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vagrel {
 
@@ -15,6 +16,12 @@ class TBinaryReader;
 class TBinaryWriter;
 class TJsonObject;
 class TVGRBaseLabel;
+
+/// A label's place on a sheet: its cell, counted from 1, and its corner in base units on paper.
+struct TSheetCell {
+    std::int16_t row = 1, column = 1;
+    std::int64_t x = 0, y = 0;
+};
 
 /// Margins, counts and printer of a print run, and how far it is. The document walks over labels and pages.
 class TVGRBasePrintInfo {
@@ -82,6 +89,9 @@ public:
     std::int32_t GetLastPageFill() const { return fLastPageFill; }
     /// For a host that makes new preview copies: the page is filled again.
     void SetLastPageFill(std::int32_t value) { fLastPageFill = value; }
+
+    /// The cells that the page `GoToPage` went to uses, in the order in which they are filled.
+    std::vector<TSheetCell> Cells() const;
 
     void Assign(const TVGRBasePrintInfo& source);
 

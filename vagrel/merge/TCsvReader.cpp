@@ -88,6 +88,11 @@ void TCsvReader::AppendQuoted(std::u16string& cell, std::size_t from, std::size_
     Assign(cell, bytes);
 }
 
+std::string_view TCsvReader::Text(int index) const {
+    const std::size_t start = fStarts[std::size_t(index)];
+    return std::string_view(fText).substr(start, EndOfRecord(start) - start);
+}
+
 void TCsvReader::Read(int index, TCells& cells) const {
     std::size_t count = 0;
     for (std::size_t at = fStarts[std::size_t(index)];; ++at) {

@@ -23,6 +23,8 @@ public:
     int Count() const { return int(fStarts.size()); }
     /// The cells of a record counted from 0; the strings in `cells` are used again.
     void Read(int index, TCells& cells) const;
+    /// A record counted from 0 as it stands, without its line break.
+    std::string_view Text(int index) const;
 
 private:
     std::size_t EndOfRecord(std::size_t at) const;
