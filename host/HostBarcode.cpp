@@ -9,9 +9,11 @@
 namespace vagrel {
 
 void HostBarcode::CalcValues(int kind) {
-    const TTextSize size = static_cast<const HostLabel&>(fOwner).Measurer().Measure(
-        u"0", {GetFontName(), double(BaseFontHeight()), false, false});
-    StoreDigitMeasure({Round32(size.ascent), Round32(size.descent), Round32(size.underline), 0, 1});
+    if (GetShowNumber()) {
+        const TTextSize size = static_cast<const HostLabel&>(fOwner).Measurer().Measure(
+            u"0", {GetFontName(), double(BaseFontHeight()), false, false});
+        StoreDigitMeasure({Round32(size.ascent), Round32(size.descent), Round32(size.underline), 0, 1});
+    }
     HostItem::CalcValues(kind);
 }
 

@@ -3,6 +3,7 @@
 #include "Commands.h"
 
 #include <host/HostLabel.h>
+#include <host/ItemRegistry.h>
 #include <host/PageWriter.h>
 #include <vagrel/barcode/TPDF417.h>
 #include <vagrel/barcode/TVGRBaseBarcode.h>
@@ -52,21 +53,12 @@ const TNames& TypeNames() {
 
 std::string NameOf(int type) { return TypeNames()[std::size_t(type)].first; }
 
-TVGRBaseCode& MakeCode(HostLabel& label, const TArguments& arguments) {
-    const std::u16string text = FromUtf8(arguments.text);
-    auto make = [&]() -> TVGRBaseItem& {
-        switch (arguments.type) {
-        case QR:
-            return label.CreateQRCode(0, 0, text);
-        case DataMatrix:
-            return label.CreateDataMatrix(0, 0, text);
-        case Pdf417:
-            return label.CreatePDF417(0, 0, text);
-        default:
-            return label.CreateBarcode(0, 0, text, TKSLBarType(arguments.type));
-        }
-    };
-    return dynamic_cast<TVGRBaseCode&>(make());
+TVGRBaseCode& MakeCode(HostLabel& label, int type) {
+    const TKSLItemType item = type == QR           ? itQRCode
+                              : type == DataMatrix ? itDataMatrix
+                              : type == Pdf417     ? itPDF417
+                                                   : itBarcode;
+    return dynamic_cast<TVGRBaseCode&>(MakeItem(label, label.ActiveLayer(), item, 0));
 }
 
 // Quiet zones of the published symbologies, in modules.
@@ -94,6 +86,8 @@ void Set(float asked, const char* option, int type, IKSLBar1D2D& code, float (IK
 void Shape(TVGRBaseCode& code, const TArguments& arguments) {
     auto* linear = dynamic_cast<TVGRBaseBarcode*>(&code);
     if (linear) {
+        linear->SetCodeType(TKSLBarType(arguments.type));
+        linear->SetFontName(u"sans-serif"); // which every renderer has
         linear->SetCheckSum(arguments.check);
         linear->SetShowNumber(!arguments.noText);
     } else if (arguments.check || arguments.noText) {
@@ -108,7 +102,7 @@ void Shape(TVGRBaseCode& code, const TArguments& arguments) {
     const TQuiet quiet = QuietOf(arguments.type);
     code.SetPaddingX(quiet.x * code.GetBarWidth());
     code.SetPaddingY(quiet.y * code.GetBarWidth());
-    code.CalcValues(2);
+    code.SetCode(FromUtf8(arguments.text));
 }
 
 // Why a linear kind does not take a text.
@@ -198,8 +192,11 @@ void Run(const TArguments& arguments, bool complete) {
     if (!arguments.out.empty())
         PageKindOf(arguments.out); // refuses a name before anything is printed
     HostLabel label;
-    TVGRBaseCode& code = MakeCode(label, arguments);
-    Shape(code, arguments);
+    TVGRBaseCode& code = MakeCode(label, arguments.type);
+    {
+        const UpdateScope bracket(label);
+        Shape(code, arguments);
+    }
     CheckSymbol(code, arguments);
     label.GetMeasure().SetLabelSizeMM(GetBaseValue(code.BarCodeWidth()), GetBaseValue(code.BarCodeHeight()));
     if (arguments.json)
