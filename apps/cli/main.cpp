@@ -91,7 +91,8 @@ int Run(int argc, char** argv) {
         return Fail(2, std::string(error.what()) + " (see vagrel --help)");
     }
     if (app.get_subcommands().empty())
-        return Fail(2, "A command is missing: new, render, merge, fields, info, convert or barcode (see vagrel --help)");
+        return Fail(2,
+                    "A command is missing: new, render, merge, fields, info, convert or barcode (see vagrel --help)");
     return 0;
 }
 
