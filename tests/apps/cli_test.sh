@@ -98,6 +98,46 @@ run 1 'png' barcode QR x -o code.gif
 run 0 '' barcode QR x -o code.png
 run 0 '' barcode EAN8 1234567 --check -o code.pdf
 
+# Labels from data.
+run 0 '' new -o label.json
+printf 'Name;Copies\n"A; b";2\nC;0\nD;1\n' >data.csv
+run 1 'nothing named "x"' merge label.json -o m.svg --answer x=1
+run 0 '' merge label.json --csv data.csv -o m.svg
+grep -qF '3 labels on 1 pages' out || fail "merge counts wrongly: $(cat out)"
+run 0 '' merge label.json --csv data.csv --repeat Copies -o m.svg
+grep -qF '3 labels on 1 pages' out || fail "a record without copies was printed: $(cat out)"
+"$vagrel" merge label.json --csv - -o m.pdf <data.csv >out 2>err || fail "no CSV from standard input: $(cat err)"
+run 0 '' merge label.json --csv data.csv --copies 20 --first-cell 7,2 -o m.png --dpi 20
+grep -qF '60 labels on 4 pages' out || fail "pages are counted wrongly: $(cat out)"
+[ -s m-0004.png ] && [ ! -e m-0005.png ] || fail 'not four pictures'
+run 0 '' merge label.json --csv data.csv --copies 20 --pages 2-3 -o n.svg
+[ -s n-0002.svg ] && [ -s n-0003.svg ] && [ ! -e n-0001.svg ] || fail 'not pages 2 and 3'
+run 1 'no range of the 1 pages' merge label.json --csv data.csv --pages 2 -o no.svg
+run 1 '7 rows and 3 columns' merge label.json --csv data.csv --first-cell 8,1 -o no.svg
+run 1 'no field "Copy"' merge label.json --csv data.csv --repeat Copy -o no.svg
+run 1 'none.csv' merge label.json --csv none.csv -o no.svg
+run 1 'extension' merge label.json --csv data.csv -o no.xps
+printf 'Name\n"A\nB\n' >quote.csv
+run 1 'line 2 is not closed' merge label.json --csv quote.csv -o no.svg
+printf 'Name\n' >empty.csv
+run 1 'no records' merge label.json --csv empty.csv -o no.svg
+printf '{"rows":[{"a":1,"n":2},{"a":2,"n":0}],"more":[]}' >data.json
+run 0 '' merge label.json --json data.json --repeat n -o m.svg
+grep -qF '2 labels on 1 pages' out || fail "JSON records are counted wrongly: $(cat out)"
+run 1 'only rows, more' merge label.json --json data.json --source x -o no.svg
+run 2 '--table' merge label.json --sqlite x.db -o no.svg
+run 0 '' fields label.json --csv data.csv
+grep -qF 'Copies (text)' out || fail "fields does not tell the columns: $(cat out)"
+run 2 'missing' fields
+
+# Pictures.
+for format in pdf png jpg bmp; do
+    run 0 '' render plan.json --dpi 30 -o plan.$format
+    [ -s plan.$format ] || fail "no plan.$format"
+done
+run 1 '32767 pixels' render plan.json --dpi 4800 -o no.png
+run 1 'none of svg, pdf' render plan.json -o no.gif
+
 # Bad input; what stands at the target stays.
 echo keep >target
 run 1 'No such file' render none.json -o target

@@ -123,7 +123,8 @@ void TVGRBaseLabel::FillDataPage(std::int32_t page) {
     const std::int32_t rows = fMeasure->GetNuHor(), columns = fMeasure->GetNuVer();
     std::int64_t label = info.fCurrentLabel;
     std::int32_t column = page == 1 ? info.GetFirstCol() : 1;
-    for (std::int32_t row = page == 1 ? info.GetFirstRow() : 1; row <= rows; ++row, column = 1) {
+    for (std::int32_t row = page == 1 ? info.GetFirstRow() : 1; row <= rows && label <= info.fLabelsToPrint;
+         ++row, column = 1) {
         for (; column <= columns && label <= info.fLabelsToPrint; ++column, ++label) {
             for (const auto& copy : fPreview)
                 if (copy->GetRow() == row && copy->GetCol() == column)
