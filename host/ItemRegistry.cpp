@@ -2,7 +2,11 @@
 // The table from item types to classes.
 #include <host/ItemRegistry.h>
 
+#include <host/HostBarcode.h>
 #include <host/HostText.h>
+#include <vagrel/barcode/TVGRBaseDataMatrix.h>
+#include <vagrel/barcode/TVGRBasePDF417.h>
+#include <vagrel/barcode/TVGRBaseQRCode.h>
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRBasePoint.h>
 #include <vagrel/foundation/Exceptions.h>
@@ -40,11 +44,20 @@ struct TRow {
 };
 
 constexpr TRow Rows[] = {
-    {itPoint, Fixed<HostItem<TVGRBasePoint>>},         {itLine, Fixed<HostItem<TVGRBaseLine>>},
-    {itPolyLine, Counted<HostItem<TVGRBasePolyLine>>}, {itRectangle, Fixed<HostItem<TVGRBaseRectangle>>},
-    {itPolygon, Counted<HostItem<TVGRBasePolygon>>},   {itCircle, Fixed<HostItem<TVGRBaseCircle>>},
-    {itEllipse, Fixed<HostItem<TVGRBaseEllipse>>},     {itBezier, Counted<HostItem<TVGRBaseBezier>>},
-    {itSector, Fixed<HostItem<TVGRBaseSector>>},       {itText, Fixed<HostText>},
+    {itPoint, Fixed<HostItem<TVGRBasePoint>>},
+    {itLine, Fixed<HostItem<TVGRBaseLine>>},
+    {itPolyLine, Counted<HostItem<TVGRBasePolyLine>>},
+    {itRectangle, Fixed<HostItem<TVGRBaseRectangle>>},
+    {itPolygon, Counted<HostItem<TVGRBasePolygon>>},
+    {itCircle, Fixed<HostItem<TVGRBaseCircle>>},
+    {itEllipse, Fixed<HostItem<TVGRBaseEllipse>>},
+    {itBezier, Counted<HostItem<TVGRBaseBezier>>},
+    {itSector, Fixed<HostItem<TVGRBaseSector>>},
+    {itText, Fixed<HostText>},
+    {itBarcode, Fixed<HostBarcode>},
+    {itPDF417, Fixed<HostItem<TVGRBasePDF417>>},
+    {itDataMatrix, Fixed<HostItem<TVGRBaseDataMatrix>>},
+    {itQRCode, Fixed<HostItem<TVGRBaseQRCode>>},
 };
 
 } // namespace

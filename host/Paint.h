@@ -5,10 +5,12 @@
 namespace vagrel {
 
 class CairoDraw;
+class TVGRBaseBarcode;
 class TVGRBaseBezier;
 class TVGRBaseCircle;
 class TVGRBaseEllipse;
 class TVGRBaseLine;
+class TVGRBaseMatrixCode;
 class TVGRBasePoint;
 class TVGRBasePolyLine;
 class TVGRBasePolygon;
@@ -26,5 +28,7 @@ void Paint(const TVGRBaseCircle& circle, const CairoDraw& draw);
 void Paint(const TVGRBaseEllipse& ellipse, const CairoDraw& draw);
 void Paint(const TVGRBaseSector& sector, const CairoDraw& draw);
 void Paint(const TVGRBaseText& text, const CairoDraw& draw);
+void Paint(const TVGRBaseBarcode& bars, const CairoDraw& draw);
+void Paint(const TVGRBaseMatrixCode& code, const CairoDraw& draw);
 
 } // namespace vagrel

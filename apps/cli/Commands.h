@@ -18,6 +18,7 @@ void AddNew(CLI::App& app);
 void AddRender(CLI::App& app);
 void AddInfo(CLI::App& app);
 void AddConvert(CLI::App& app);
+void AddBarcode(CLI::App& app);
 void AddMerge(CLI::App& app);
 void AddFields(CLI::App& app);
 

@@ -68,6 +68,36 @@ run 2 '.vgr' convert plan.json plan.txt
 head -c 100 plan.vgr >short.vgr
 run 1 'short.vgr: unexpected end' info short.vgr
 
+# Barcodes.
+run 0 '' barcode --list
+[ "$(wc -l <out)" -eq 26 ] || fail 'barcode --list does not name 26 kinds'
+cp out kinds
+while read -r kind; do
+    run 0 '' barcode "$kind" 1234567 --module 0.4 --height 3 -o code.svg $(case $kind in EAN13 | EAN8 | UPC*) echo --check ;; esac)
+    grep -qF '<rect' code.svg || fail "$kind: no bars"
+done <kinds
+run 0 '' barcode EAN13 590123412345 --check --json
+grep -qF '"Code": "5901234123457"' out && grep -qF '"CheckDigits": "7"' out || fail "EAN13: $(cat out)"
+grep -qF '<svg' out && fail '--json alone also wrote the picture'
+run 0 '' barcode QR hello --json -o code.svg
+[ "$(grep -cE '^\s*"[01]{21}",?$' out)" -eq 21 ] || fail "QR: no 21 rows: $(cat out)"
+run 0 '' barcode CODE39 A --no-text
+grep -qF '<text' out && fail '--no-text has a text'
+run 1 'EAN13 takes 13 digits, not 12' barcode EAN13 590123412345
+run 1 'EAN8 takes 8 digits at most, not 9' barcode EAN8 123456789 --check
+run 1 'CODE39 does not take "é"' barcode CODE39 café
+run 1 'CODE128AUTO does not take "€"' barcode CODE128AUTO '5 €'
+run 1 'DATAMATRIX does not take "€"' barcode DATAMATRIX '5 €'
+run 1 'QR cannot hold this text' barcode QR "$(printf '%03000d' 0)x"
+run 1 'PDF417 takes the characters' barcode PDF417 'é'
+run 2 'none of EAN13' barcode EAN14 1
+run 2 'TEXT' barcode EAN13
+run 2 'only linear' barcode QR x --check
+run 2 'takes 0.19 mm or more' barcode QR x --module 0.1
+run 1 'png' barcode QR x -o code.gif
+run 0 '' barcode QR x -o code.png
+run 0 '' barcode EAN8 1234567 --check -o code.pdf
+
 # Labels from data.
 run 0 '' new -o label.json
 printf 'Name;Copies\n"A; b";2\nC;0\nD;1\n' >data.csv

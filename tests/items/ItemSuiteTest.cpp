@@ -114,9 +114,9 @@ TEST_P(EveryItem, WritesSvgInEveryMode) {
 
 TEST_P(EveryItem, IsPickedWhereItIs) {
     EXPECT_TRUE(item->Pick(sample->on.bX, sample->on.bY, 300, true));
-    EXPECT_FALSE(item->Pick(sample->on.bX + 300000, sample->on.bY, 300, true));
+    EXPECT_FALSE(item->Pick(sample->on.bX + 600000, sample->on.bY, 300, true));
     EXPECT_FALSE(item->Pick(sample->on.bX, sample->on.bY - 300000, 300, true));
-    const TKSLRect around{50000, 50000, 300000, 300000}, away{500000, 500000, 600000, 600000};
+    const TKSLRect around{50000, 50000, 700000, 300000}, away{800000, 500000, 900000, 600000};
     for (const bool intersects : {false, true}) {
         EXPECT_TRUE(item->SearchRect(around, intersects));
         EXPECT_FALSE(item->SearchRect(away, intersects));
