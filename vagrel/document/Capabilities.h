@@ -247,6 +247,31 @@ protected:
     ~IKSLLink() = default;
 };
 
+/// A link, as the editor sees it: the numbers of the items that it joins, and the points of its course, from 1.
+class IKSLLinkItem {
+public:
+    virtual std::int32_t GetFromID() const = 0;
+    virtual std::int32_t GetToID() const = 0;
+    virtual TKSLinkType GetLinkType() const = 0;
+    virtual int NumLinkPoints() const = 0;
+    virtual TKSLPto GetLinkPoint(int index) const = 0;
+    /// False for a bad index; with `calc` the link is laid out again.
+    virtual bool SetBasePoint(int index, std::int64_t bx, std::int64_t by, bool calc) = 0;
+
+protected:
+    ~IKSLLinkItem() = default;
+};
+
+/// An arc, as the editor sees it: the points 1, 2 and 3 of its rim, which shape it.
+class IKSLArc {
+public:
+    virtual TKSLPto GetPto(int index) const = 0;
+    virtual void MoveBasePoint(int index, std::int64_t x, std::int64_t y) = 0;
+
+protected:
+    ~IKSLArc() = default;
+};
+
 class IKSLBarcode {
 public:
     virtual float GetBarWidth() const = 0;

@@ -101,10 +101,9 @@ void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
     std::erase(fLinks, &item);
     std::erase(fCalcs, &item);
     std::erase_if(fSelPoint, [&](const TKSSelectionValue& handle) { return handle.Item == &item; });
-    const std::scoped_lock guard(fCriticalSection);
-    const std::int32_t id = item.GetInID();
-    std::erase_if(fIntersect,
-                  [id](const TIntSecPoint& crossing) { return crossing.fID1 == id || crossing.fID2 == id; });
+    // Preview copies have the number of the item that they show.
+    if (!item.FromPreview())
+        RemoveElementFromIntersections(item.GetInID());
 }
 
 void TVGRBaseLabel::FreeItem(TVGRBaseItem& item) {

@@ -13,6 +13,7 @@ void TVGRBaseValueCmd::AddCommand(TVGRBaseItem&, cmd::TBaseValueIndex) {}
 void TVGRBoolCmd::AddCommand(TVGRBaseItem&, cmd::TBoolIndex) {}
 void TVGREnumValueCmd::AddCommand(TVGRBaseItem&, cmd::TEnumIndex) {}
 void TVGRPosCmd::AddCommand(TVGRBaseItem&, int, TKSLPosType) {}
+void TVGRBasePosCmd::AddCommand(TVGRBaseItem&, cmd::TPointKind, int) {}
 void TVGRElePosCmd::AddCommand(TVGRBaseItem&) {}
 void TVGRFloatCmd::AddCommand(TVGRBaseItem&, cmd::TFloatIndex) {}
 void TVGRTxtCmd::AddCommand(TVGRBaseItem&, cmd::TTextIndex) {}

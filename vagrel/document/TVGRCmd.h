@@ -23,6 +23,9 @@ enum TEnumIndex : std::uint16_t { LineType, FromType, ToType, FromLinkType, ToLi
 enum TFloatIndex : std::uint16_t { BarWidth, BarHeight, Factor, CenterX, CenterY };
 enum TTextIndex : std::uint16_t { FontName = 1, Text, LevelText, ArrowText };
 
+/// Whose point it is.
+enum TPointKind : std::int32_t { ItemPoint = 8, LinkPoint };
+
 } // namespace cmd
 
 struct TVGRColorCmd {
@@ -43,6 +46,9 @@ struct TVGREnumValueCmd {
 };
 struct TVGRPosCmd {
     static void AddCommand(TVGRBaseItem& item, int point, TKSLPosType type);
+};
+struct TVGRBasePosCmd {
+    static void AddCommand(TVGRBaseItem& item, cmd::TPointKind kind, int point);
 };
 struct TVGRElePosCmd {
     static void AddCommand(TVGRBaseItem& item);
