@@ -174,9 +174,17 @@ void HostLabel::SaveToFile(std::u16string_view filename, TKSLExt format) {
 TVGRBaseItem& HostLabel::CreateElementFromStream(std::string_view snapshot) {
     TBinaryReader reader(snapshot);
     const auto version = reader.Read<std::int32_t>();
+    return ReadItem(version, reader, rdNormal);
+}
+
+void HostLabel::PasteSelection() {
+    ReadClipboard([this](std::int32_t version, TBinaryReader& reader) { ReadItem(version, reader, rdPaste); });
+}
+
+TVGRBaseItem& HostLabel::ReadItem(std::int32_t version, TBinaryReader& reader, TKSLReadType type) {
     TVGRBaseItem& item = MakeItem(*this, ActiveLayer(), TKSLItemType(reader.Read<std::int32_t>()), 0);
     try {
-        item.ReadData(version, reader, rdNormal);
+        item.ReadData(version, reader, type);
     } catch (...) {
         FreeItem(item);
         throw;
@@ -184,7 +192,6 @@ TVGRBaseItem& HostLabel::CreateElementFromStream(std::string_view snapshot) {
     return item;
 }
 
-void HostLabel::PasteSelection() { throw ENotAvailable(u"Pasting is not available yet"); }
 void HostLabel::Print() { throw ENotAvailable(u"This host has no printer"); }
 
 void HostLabel::ExportDoc(TKSLExport, std::u16string_view, int, float, int, bool, bool, bool) {

@@ -80,6 +80,8 @@ private:
     void ReadParts(TJsonObject& root);
     void ReadBlocks(TBinaryReader& reader);
     void ReadBracket(const std::function<void()>& read);
+    /// The next item of a snapshot or of the clipboard; none is left when it is damaged.
+    TVGRBaseItem& ReadItem(std::int32_t version, TBinaryReader& reader, TKSLReadType type);
     /// An item on the active layer at the given points.
     TVGRBaseItem& Make(TKSLItemType type, const TKSLPtoA& points = {});
 };

@@ -19,14 +19,18 @@ namespace vagrel {
 TVGRBaseItem::TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, bool preview)
     : TVGRBaseItem(owner, type, owner.GetLayer(1), preview) {}
 
+// From here on the item counts as constructed: what throws below, or in a derived class, ends it by its destructor.
 TVGRBaseItem::TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview)
+    : TVGRBaseItem(owner, type, layer, preview, TStage::Built) {
+    owner.Adopt(*this);
+    TVGRCreateCmd::AddCommand(*this);
+}
+
+TVGRBaseItem::TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview, TStage)
     : fOwner(owner), fItemType(type), fLayer(&layer), fPoints(std::size_t(NumPointsItem(type))), fFromPreview(preview) {
     if (!owner.HasAnyState({lsReading, lsPaste}))
         fInID = owner.NextID();
     SetName();
-    owner.Adopt(*this);
-    if (!preview)
-        TVGRCreateCmd::AddCommand(*this);
 }
 
 TVGRBaseItem::~TVGRBaseItem() { fOwner.Forget(*this); }

@@ -17,6 +17,7 @@ class TJsonArray;
 class TJsonObject;
 class TVGRBaseLabel;
 class TVGRLayer;
+struct TVGRReceiver;
 
 /// The printable extent of items in base units. A limit of -1 has no value yet.
 struct TKSLExtent {
@@ -71,6 +72,8 @@ public:
     std::int32_t BasePenWidth() const { return fPenWidth; }
     /// Base units on paper, stored without a command.
     void StorePenWidth(std::int32_t value) { fPenWidth = value; }
+    /// All points in base units, stored without a command.
+    void StorePoints(TKSLPtoA value) { fPoints = std::move(value); }
     TKSLayerOpts GetOptions() const { return fOptions; }
     void SetOptions(TKSLayerOpts value) { fOptions = value; }
     TVGRLayer& GetLayer() const { return *fLayer; }
@@ -289,6 +292,15 @@ protected:
     std::int64_t fmx = 0;
     std::int64_t fmy = 0;
     bool fFromPreview = false;
+
+private:
+    friend class TVGRBaseLabel; // which keeps the item's commands
+
+    enum class TStage { Built };
+    /// An item that nobody knows yet.
+    TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview, TStage);
+
+    std::shared_ptr<TVGRReceiver> fReceiver;
 };
 
 } // namespace vagrel

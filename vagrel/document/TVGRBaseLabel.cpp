@@ -5,6 +5,7 @@
 #include <vagrel/document/TVGRBackSurf.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRBasePrintInfo.h>
+#include <vagrel/document/TVGRCmd_p.h>
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/document/TVGRSettings.h>
@@ -158,8 +159,5 @@ void TVGRBaseLabel::SetBackSurf(const TVGRBackSurf& value) { fBackSurf->Assign(v
 void TVGRBaseLabel::SetSettings(const TVGRSettings& value) { fSettings->Assign(value); }
 void TVGRBaseLabel::SetMapping(const TVGRMapping& value) { fMapping->Assign(value); }
 void TVGRBaseLabel::SetData(const TVGRData& value) { fData->Assign(value); }
-
-void TVGRBaseLabel::Undo() { throw ENotAvailable(u"Undo is not available yet"); }
-void TVGRBaseLabel::Redo() { throw ENotAvailable(u"Redo is not available yet"); }
 
 } // namespace vagrel

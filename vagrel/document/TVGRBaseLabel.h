@@ -3,8 +3,8 @@
 //
 // The body of this class is spread by topic: TVGRBaseLabel.cpp (life, identifiers), _Update (update cycle, reading
 // bracket, clearing), _Units (units and values), _Lists (accessors, ownership, layers), _io (JSON), TitleBlock.cpp,
-// svg/SaveSVG.cpp, merge/PageFill.cpp, merge/Values.cpp, merge/FieldLists.cpp, editor/Picking.cpp, Snapping.cpp,
-// Handles.cpp, Drag.cpp, Intersections.cpp.
+// _Undo (undo stacks), Selection.cpp, Selection_Move.cpp, Arrange.cpp, svg/SaveSVG.cpp, merge/PageFill.cpp,
+// merge/Values.cpp, merge/FieldLists.cpp, editor/Picking.cpp, Snapping.cpp, Handles.cpp, Drag.cpp, Intersections.cpp.
 #pragma once
 
 #include <vagrel/document/Events.h>
@@ -14,6 +14,7 @@
 #include <vagrel/foundation/TComponent.h>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -39,7 +40,9 @@ class TVGRMapping;
 class TVGRMeasure;
 class TVGRSettings;
 struct TIntSecPoint;
+enum TVGRCmdKind : std::int32_t;
 struct TKSLExtent;
+struct TVGRCmd;
 
 /// A document. Abstract: a host derives its own, which constructs the items, reads and writes files, prints and
 /// exports.
@@ -242,13 +245,76 @@ public:
     void SetMapping(const TVGRMapping& value);
     void SetData(const TVGRData& value);
 
-    // Undo
+    // Undo. Setters record each change; what happens in an update bracket is one step, everything else a step of its
+    // own.
 
-    bool IsUndoEmpty() const { return true; }
-    bool IsRedoEmpty() const { return true; }
-    /// Throw ENotAvailable: changes are not recorded yet.
+    bool IsUndoEmpty() const;
+    bool IsRedoEmpty() const;
+    /// One step back or forth; nothing on an empty stack. Observers are asked to repaint once.
     void Undo();
     void Redo();
+    /// The number of the step that the next command belongs to.
+    std::int32_t UnReID();
+    /// Keeps the state of a property that is about to change. Items call it through TVGRCmd.h.
+    void Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t index);
+
+    // Selection and arrangement. What moves through base units is recorded; a command that arranges is one step. Where
+    // a result is given, false says that nothing moved.
+
+    /// The first selected item, the reference of the commands that arrange; null for none.
+    TVGRBaseItem* Select() const { return GetSelection(1); }
+    /// The item alone; null is ignored.
+    void SetSelection(TVGRBaseItem* item, TKSLItemState state);
+    /// From the selected item to the next or prior one that can be picked; false at the end of the list.
+    bool SelectNext();
+    bool SelectPrior();
+    /// Left (1), right (2), top (3) or bottom (4) of the one selected item in the document's unit; else -1.
+    float SizeSelection(int side) const;
+    /// The same of all selected items together, in base units; -1 for none.
+    std::int64_t SelectionBounds(int side) const;
+    /// Takes the item out of the document. Links to it that move with the selection go too, without a command.
+    /// `removeSelection` tells the observers when the item was selected.
+    void DeleteItem(TVGRBaseItem& item, bool removeSelection);
+    void DeleteSelection();
+    /// Takes a point, from 1, out of the first selected item. Not recorded.
+    bool DeletePoint(int index);
+    /// Writes the selection to the document's own clipboard. Throws EOutOfRange for an item that the binary form cannot
+    /// hold; the clipboard is as before then.
+    void CopySelection();
+
+    // `refLines` also searches the guides. `checkBounds` keeps the whole selection on the page.
+
+    /// In the document's unit; not recorded.
+    bool MoveSelection(float ax, float ay, bool refLines, bool checkBounds);
+    /// Moves one side, moLeft to moBottom, of the items that can be resized. In the document's unit; not recorded.
+    bool MoveSize(float value, TKSLMoveOpt side, bool refLines, bool checkBounds);
+    bool MoveBaseSelection(std::int64_t bx, std::int64_t by, bool refLines, bool checkBounds);
+    /// Each item goes to the grid where `gx`, `gy` are positive.
+    bool MoveBaseGridSelection(std::int64_t gx, std::int64_t gy, std::int64_t bx, std::int64_t by, bool refLines,
+                               bool checkBounds);
+    /// All by the shortest way that takes one of them to its next grid line.
+    bool MoveBaseGridSelection(std::int64_t gx, std::int64_t gy, bool right, bool down, bool refLines);
+    /// Moves the sides that the option names; with a positive grid value each to a line of the grid.
+    bool MoveBaseSize(std::int64_t bx, std::int64_t by, std::int64_t gx, std::int64_t gy, TKSLMoveOpt option,
+                      bool refLines, bool checkBounds);
+
+    /// Takes one edge of all others to that of the first.
+    void AlignObjects(TKSLObjectAlign edge);
+    /// The others on the middle of the first; a single item on the middle of the label.
+    void CenterHorizontal() { CenterSelection(anHorz); }
+    void CenterVertical() { CenterSelection(anVert); }
+    /// Sorts the selection along the axis and sets it apart by a gap in the document's unit, or evenly between the
+    /// first and the last for -1. Needs three items; a single one goes to the middle of the label.
+    void SpaceHorizontal(float gap) { SpaceSelection(anHorz, gap); }
+    void SpaceVertical(float gap) { SpaceSelection(anVert, gap); }
+    void SameWidth() { SameSize(anHorz); }
+    void SameHeight() { SameSize(anVert); }
+    /// Turn the label with all its items by a quarter; only in emLabelling. Not recorded.
+    void RotateLeft() { Turn(true); }
+    void RotateRight() { Turn(false); }
+    /// The first selected item to an end of the items. Not recorded.
+    void SendToBack() { MoveInZOrder(false); }
+    void BringToFront() { MoveInZOrder(true); }
 
     // Data
 
@@ -343,17 +409,6 @@ public:
     /// One step of a drag with the grid on, to the grid point nearest to the pointer; false when nothing moved. With
     /// several items the first step only notes where they were grabbed.
     bool MoveGridEditor(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY, bool refLines);
-    /// Move, resize or shape the selection, without a notification; false when nothing moved. `checkBounds` shrinks the
-    /// step so that all of the selection stays on the page.
-    bool MoveBaseSelection(std::int64_t dx, std::int64_t dy, bool refLines, bool checkBounds);
-    /// To the next line of the grid in a direction.
-    bool MoveBaseGridSelection(std::int64_t gx, std::int64_t gy, bool right, bool down, bool refLines);
-    /// By an offset, each item to the grid.
-    bool MoveBaseGridSelection(std::int64_t gx, std::int64_t gy, std::int64_t dx, std::int64_t dy, bool refLines,
-                               bool checkBounds);
-    /// With a grid step above 0 the moved edge goes to the nearest line of the grid.
-    bool MoveBaseSize(std::int64_t dx, std::int64_t dy, std::int64_t gx, std::int64_t gy, TKSLMoveOpt option,
-                      bool refLines, bool checkBounds);
     /// The point of the first selected item that the action drags. With a grid to `gx`, `gy`; a coordinate of -1, and
     /// one off the page, stays.
     bool MoveBasePoint(std::int64_t bx, std::int64_t by, std::int64_t gx, std::int64_t gy, bool refLines,
@@ -472,6 +527,9 @@ protected:
     void Notification(TComponent* component, TOperation operation) override;
     /// Takes an item out of every list and destroys it.
     void FreeItem(TVGRBaseItem& item);
+    /// The steps of a paste; nothing for an empty clipboard. `read` constructs the next item and lets it read itself,
+    /// each of which is selected then. Not recorded.
+    void ReadClipboard(const std::function<void(std::int32_t version, TBinaryReader& reader)>& read);
 
 private:
     /// An observer and what is known of it: it may be half destroyed when it is taken out.
@@ -483,33 +541,6 @@ private:
 
     void CalcPending();
     void FinishUpdate();
-    // Editor
-    /// The topmost item that is visible, selectable and `wanted`; null for none. All searches by place come here, so
-    /// that an index of places can stand here.
-    template <class Wanted>
-    TVGRBaseItem* TopItem(Wanted wanted) const;
-    /// Takes an item out of the selection and tells the host.
-    void Unselect(TVGRBaseItem& item);
-    /// Tells of a new selection; a single text of the given types that is not bound to data is opened instead.
-    void SelectionPicked(TKSLSet<TKSLItemType> texts);
-    /// Hides the first selected item and has the host open it in its text editor.
-    void EditSelText();
-    void ResetMultiDragState();
-    bool Drag(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY, bool refLines);
-    bool DragRadius(TKSLPto pointer);
-    bool DragShape(TKSLPto pointer);
-    void ClipToPage(std::int64_t& dx, std::int64_t& dy, TKSLMoveOpt option) const;
-    void MoveAll(std::int64_t dx, std::int64_t dy, std::int64_t gx, std::int64_t gy, bool refLines);
-    /// The offset that takes the selection to where `aim` sends each of its items: the smallest one on each axis.
-    template <class Aim>
-    TKSLPto CommonOffset(Aim aim) const;
-    /// Lays out what hangs on moved items.
-    void CalcMoved();
-    void MovedFinish(bool refLines);
-    void ThreadFinished();
-    /// Ends the computation, waiting up to three seconds, and pumps the queue of the main thread meanwhile.
-    void TerminarThread();
-    void EmptyIntersect();
     /// Resolves what items refer to by stored numbers.
     void AssignSymbolAndFlowLinks();
     /// Arrow lines that show the unit measure themselves again; true when there is one.
@@ -528,6 +559,55 @@ private:
     void SelectOnly(TVGRBaseItem& item, TKSChange change);
     void FillBoxTexts();
     void FillBoxItems(TVGRLayer& layer);
+
+    // Undo
+
+    /// What a command in replay does with what it causes to be recorded.
+    enum class TReplay : std::uint8_t { None, Undo, Redo };
+
+    std::vector<TVGRCmd>& Recording() { return fReplay == TReplay::Undo ? fRedo : fUndo; }
+    void Step(TReplay direction);
+    void Replay(const TVGRCmd& command, TReplay direction);
+    void Revive(const TVGRCmd& deletion);
+    void ForgetCommands(TVGRBaseItem& item);
+    void ClearCommands();
+    void TellUndoRedo();
+
+    // Selection and arrangement
+
+    bool SelectNeighbour(bool forward);
+    void CalcLinks();
+    /// The items whose inner layout follows a move, and the links.
+    void Recalculate();
+    bool MoveAllBy(std::int64_t bx, std::int64_t by, std::int64_t gx, std::int64_t gy, bool refLines);
+    void CenterSelection(TKSLAlignType axis);
+    void SpaceSelection(TKSLAlignType axis, float gap);
+    void SortSelection(TKSLAlignType axis);
+    void SameSize(TKSLAlignType axis);
+    void Turn(bool left);
+    void MoveInZOrder(bool front);
+
+    // Editor: picking, handles, drags, crossings
+
+    /// The topmost item that is visible, selectable and `wanted`; null for none. All searches by place come here, so
+    /// that an index of places can stand here.
+    template <class Wanted>
+    TVGRBaseItem* TopItem(Wanted wanted) const;
+    /// Takes an item out of the selection and tells the host.
+    void Unselect(TVGRBaseItem& item);
+    /// Tells of a new selection; a single text of the given types that is not bound to data is opened instead.
+    void SelectionPicked(TKSLSet<TKSLItemType> texts);
+    /// Hides the first selected item and has the host open it in its text editor.
+    void EditSelText();
+    void ResetMultiDragState();
+    /// A step of the drag; false when nothing moved. `DragRadius` and `DragShape` take the pointer's place.
+    bool Drag(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY, bool refLines);
+    bool DragRadius(TKSLPto pointer);
+    bool DragShape(TKSLPto pointer);
+    void ThreadFinished();
+    /// Ends the computation, waiting up to three seconds, and pumps the queue of the main thread meanwhile.
+    void TerminarThread();
+    void EmptyIntersect();
 
     // Data
     void ActivateBindings();
@@ -572,10 +652,12 @@ private:
     bool fMultiDragHasLast = false;
     TKSChangeValue fChangeVal;
     TVGRBaseLibSymbol* fCurrentLibSym = nullptr;
+    std::vector<TVGRCmd> fUndo, fRedo;
+    TReplay fReplay = TReplay::None;
     bool fUndoOpt = false;
     std::int32_t fMaxID = 1;
     bool fIncUnReID = true;
-    std::int32_t fUnReID = 0;
+    std::int32_t fUnReID = 0, fUnReRef = 0;
     bool fModified = false;
     TVagrelStateOptions fStates;
     std::int32_t fIdxBack = -1;

@@ -95,8 +95,8 @@ void TVGRBaseLabel::Adopt(TVGRBaseItem& item) {
 }
 
 void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
-    if (!Release(fItems, item))
-        Release(fPreview, item);
+    ForgetCommands(item);
+    Release(item.FromPreview() ? fPreview : fItems, item);
     std::erase(fSelection, &item);
     std::erase(fLinks, &item);
     std::erase(fCalcs, &item);
@@ -107,8 +107,8 @@ void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
 }
 
 void TVGRBaseLabel::FreeItem(TVGRBaseItem& item) {
-    if (const int index = IndexOf(fItems, item); index >= 0)
-        detail::TakeOut(fItems, std::size_t(index));
+    if (!item.FromPreview())
+        delete &item; // takes itself out
 }
 
 void TVGRBaseLabel::FreeItems(TOwned<TVGRBaseItem>& items) {

@@ -269,11 +269,8 @@ void TVGRBaseLabel::Clear(TKSLClearSet what, bool paint) {
     const bool freesItems = holds(cleItems) && !fItems.empty();
     const bool unselects = (holds(cleItems) || what.Has(cleSelection)) && !fSelection.empty();
 
-    if (holds(cleUndoRedo)) {
-        fUnReID = 0;
-        if (OnUndoRedo && !fDestroying)
-            OnUndoRedo(*this, true, true);
-    }
+    if (holds(cleUndoRedo))
+        ClearCommands();
     if (holds(cleItems) || what.Has(cleSelection)) {
         ClearSelectionLists();
         ChangeValue(chClearSelect);

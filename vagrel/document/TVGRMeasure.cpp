@@ -65,6 +65,11 @@ std::int64_t TVGRMeasure::BaseSide(float value) const {
 
 float TVGRMeasure::Restricted(std::int32_t base) const { return fOwner.GetVal(base, true); }
 
+void TVGRMeasure::Turn() {
+    std::swap(fWidth, fHeight);
+    std::swap(fPaperWidth, fPaperHeight);
+}
+
 float TVGRMeasure::WidthUnits() const { return GetValue(GetSize(mtLabelWidth, true), fOwner.GetUnits()); }
 float TVGRMeasure::HeightUnits() const { return GetValue(GetSize(mtLabelHeight, true), fOwner.GetUnits()); }
 

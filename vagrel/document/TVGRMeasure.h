@@ -38,6 +38,9 @@ public:
     void SetLabelSizeMM(float width, float height);
     void SetPaperSizeMM(float width, float height);
 
+    /// Exchanges width and height, of the label and of the paper.
+    void Turn();
+
     /// The real size of the drawn area in the document's unit.
     float WidthUnits() const;
     float HeightUnits() const;

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-// What a drag or an arrow key does to the selection.
+// What the steps of a drag and the arrow keys do to the selection.
 #include <vagrel/document/TVGRBaseLabel.h>
 
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRCmd.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/editor/TAct.h>
+#include <vagrel/foundation/Arranging.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Utils.h>
 #include <vagrel/items/text/TVGRBaseText.h>
@@ -15,11 +16,6 @@
 namespace vagrel {
 
 namespace {
-
-using TOptions = TKSLSet<TKSLMoveOpt>;
-
-constexpr TOptions ByPointOneX{moLeft, moTopLeft, moBotLeft};
-constexpr TOptions ByPointOneY{moTop, moTopLeft, moTopRight};
 
 // The handles of a box: what they move, on which axes.
 struct TBoxHandle {
@@ -33,19 +29,7 @@ constexpr TBoxHandle BoxHandles[] = {
     {mtS, moBottom, false, true},  {mtSE, moBotRight, true, true},
 };
 
-// Families whose inner layout follows them.
-constexpr TKSLSet<TKSLItemType> LaidOutTypes{itArrowLine, itPara, itFlow, itDim, itRichText};
-
 bool HasGrid(std::int64_t gx, std::int64_t gy) { return gx > 0 || gy > 0; }
-
-// Where an edge goes that moves by `offset` to a grid; -1 when it goes by the offset alone. The last line of the grid
-// may lie beyond the page, where the offset ends at its edge.
-std::int64_t AlignedEdge(std::int64_t edge, std::int64_t offset, std::int64_t step, std::int64_t page) {
-    if (step <= 0 || offset == 0)
-        return -1;
-    const std::int64_t moved = AddSat(edge, offset), aligned = AdjustGrid(moved, step);
-    return aligned >= 0 && aligned <= page ? aligned : moved;
-}
 
 std::int64_t Size(std::int64_t value) { return value < 0 ? SubSat(0, value) : value; }
 
@@ -67,92 +51,6 @@ std::int64_t InsideHigh(std::int64_t radius, std::int64_t center, std::int64_t p
 }
 
 } // namespace
-
-// The steps that the commands share
-
-void TVGRBaseLabel::ClipToPage(std::int64_t& dx, std::int64_t& dy, TKSLMoveOpt option) const {
-    for (const TVGRBaseItem* item : fSelection)
-        item->CheckBaseBoundsMove(dx, dy, option);
-}
-
-void TVGRBaseLabel::CalcMoved() {
-    for (std::size_t i = 0; i < fSelection.size(); ++i)
-        if (LaidOutTypes.Has(fSelection[i]->GetItemType()))
-            fSelection[i]->CalcValues(2);
-}
-
-void TVGRBaseLabel::MovedFinish(bool refLines) {
-    for (std::size_t i = 0; i < fLinks.size(); ++i)
-        fLinks[i]->CalcValues(2);
-    if (refLines)
-        FillRefLines();
-    FillSelPoints();
-}
-
-void TVGRBaseLabel::MoveAll(std::int64_t dx, std::int64_t dy, std::int64_t gx, std::int64_t gy, bool refLines) {
-    for (std::size_t i = 0; i < fSelection.size(); ++i)
-        fSelection[i]->BaseMove(dx, dy, gx, gy, moAll, true);
-    CalcMoved();
-    MovedFinish(refLines);
-}
-
-template <class Aim>
-TKSLPto TVGRBaseLabel::CommonOffset(Aim aim) const {
-    auto smaller = [](std::int64_t a, std::int64_t b) { return Size(b) < Size(a) ? b : a; };
-    TKSLPto common;
-    for (std::size_t i = 0; i < fSelection.size(); ++i) {
-        aim(*fSelection[i]);
-        const TKSLPto64 offset = fSelection[i]->MoveOffset();
-        common =
-            i == 0 ? TKSLPto{offset.X, offset.Y} : TKSLPto{smaller(common.bX, offset.X), smaller(common.bY, offset.Y)};
-    }
-    return common;
-}
-
-// Moving and resizing
-
-bool TVGRBaseLabel::MoveBaseSelection(std::int64_t dx, std::int64_t dy, bool refLines, bool checkBounds) {
-    return MoveBaseGridSelection(0, 0, dx, dy, refLines, checkBounds);
-}
-
-bool TVGRBaseLabel::MoveBaseGridSelection(std::int64_t gx, std::int64_t gy, std::int64_t dx, std::int64_t dy,
-                                          bool refLines, bool checkBounds) {
-    if (checkBounds)
-        ClipToPage(dx, dy, moAll);
-    if (fSelection.empty() || (dx == 0 && dy == 0))
-        return false;
-    fUpdate = true;
-    MoveAll(dx, dy, gx, gy, refLines);
-    return true;
-}
-
-bool TVGRBaseLabel::MoveBaseGridSelection(std::int64_t gx, std::int64_t gy, bool right, bool down, bool refLines) {
-    const TKSLPto offset = CommonOffset([=](TVGRBaseItem& item) { item.MoveToGrid(gx, gy, right, down); });
-    if (offset == TKSLPto())
-        return false;
-    fUpdate = true;
-    MoveAll(offset.bX, offset.bY, 0, 0, refLines);
-    return true;
-}
-
-bool TVGRBaseLabel::MoveBaseSize(std::int64_t dx, std::int64_t dy, std::int64_t gx, std::int64_t gy, TKSLMoveOpt option,
-                                 bool refLines, bool checkBounds) {
-    if (checkBounds)
-        ClipToPage(dx, dy, option);
-    if (fSelection.empty() || (dx == 0 && dy == 0))
-        return false;
-    fUpdate = true;
-    const std::int64_t width = fMeasure->GetSize(mtLabelWidth, true), height = fMeasure->GetSize(mtLabelHeight, true);
-    for (std::size_t i = 0; i < fSelection.size(); ++i) {
-        TVGRBaseItem& item = *fSelection[i];
-        const std::int64_t x = item.GetPoint(ByPointOneX.Has(option) ? 1 : 2).bX;
-        const std::int64_t y = item.GetPoint(ByPointOneY.Has(option) ? 1 : 2).bY;
-        item.BaseMove(dx, dy, AlignedEdge(x, dx, gx, width), AlignedEdge(y, dy, gy, height), option, true);
-        item.CalcValues(1);
-    }
-    MovedFinish(refLines);
-    return true;
-}
 
 bool TVGRBaseLabel::MoveBasePoint(std::int64_t bx, std::int64_t by, std::int64_t gx, std::int64_t gy, bool refLines,
                                   bool checkBounds) {
@@ -303,10 +201,20 @@ bool TVGRBaseLabel::MoveGridEditor(std::int64_t bx, std::int64_t by, std::int64_
             ChangeValue(chPropItem);
         return moved;
     }
-    const TKSLPto offset = CommonOffset([=](TVGRBaseItem& item) { item.MoveToPoint(gx, gy); });
-    if (offset == TKSLPto())
+    TKSLPto64 common;
+    for (std::size_t i = 0; i < fSelection.size(); ++i) {
+        fSelection[i]->MoveToPoint(gx, gy);
+        const TKSLPto64 offset = fSelection[i]->MoveOffset();
+        common = i == 0 ? offset : TKSLPto64{SmallerOffset(common.X, offset.X), SmallerOffset(common.Y, offset.Y)};
+    }
+    if (common.IsZero())
         return false;
-    MoveAll(offset.bX, offset.bY, 0, 0, refLines);
+    for (std::size_t i = 0; i < fSelection.size(); ++i)
+        fSelection[i]->BaseMove(common.X, common.Y, 0, 0, moAll, true);
+    if (refLines)
+        FillRefLines();
+    Recalculate();
+    FillSelPoints();
     ChangeValue(chPropItem);
     return true;
 }
