@@ -36,7 +36,7 @@ void Paint(const TVGRBaseText& text, const CairoDraw& draw) {
     PaintFrame(text, draw);
     const SavedContext saved(draw.Context());
     cairo_t* cr = draw.Context();
-    if (text.GetIsData() && text.GetEffectiveWidth() != text.Measured().width) {
+    if (text.IsBound() && text.GetEffectiveWidth() != text.Measured().width) {
         const TKSLRect shown = text.GetDisplayBoundsRect();
         RoundedBox(draw, draw.ToPaper({shown.Left, shown.Top}), draw.ToPaper(shown.GetWidth()),
                    draw.ToPaper(shown.GetHeight()), 0);

@@ -30,7 +30,11 @@ public:
     explicit RecordingObserver(TKSDestUpdate dest) : fDest(dest) {}
 
     TKSDestUpdate GetDest() const override { return fDest; }
-    void Update(TKSChange change, const TKSChangeValue& value) override { told.push_back({change, value}); }
+    void Update(TKSChange change, const TKSChangeValue& value) override {
+        told.push_back({change, value});
+        if (onUpdate)
+            onUpdate(change);
+    }
 
     /// The changes alone, and forgets them.
     std::vector<TKSChange> Take() {
@@ -42,6 +46,7 @@ public:
     }
 
     std::vector<TTold> told;
+    std::function<void(TKSChange)> onUpdate;
 
 private:
     TKSDestUpdate fDest;

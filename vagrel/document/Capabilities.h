@@ -263,6 +263,16 @@ protected:
     ~IKSLLinkItem() = default;
 };
 
+/// An arc, as the editor sees it: the points 1, 2 and 3 of its rim, which shape it.
+class IKSLArc {
+public:
+    virtual TKSLPto GetPto(int index) const = 0;
+    virtual void MoveBasePoint(int index, std::int64_t x, std::int64_t y) = 0;
+
+protected:
+    ~IKSLArc() = default;
+};
+
 class IKSLBarcode {
 public:
     virtual float GetBarWidth() const = 0;

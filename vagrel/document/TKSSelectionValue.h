@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a document keeps for its editor: the handles of the selection and the crossings of items.
+// What a document keeps for its editor: the handles of the selection.
 #pragma once
 
 #include <vagrel/foundation/Records.h>
@@ -15,13 +15,6 @@ struct TKSSelectionValue {
     TKSLSelType SelType = stNone;
     TVGRBaseItem* Item = nullptr;
     std::int16_t Pos = 0; ///< index of the point in the item, from 1
-};
-
-/// Where two items cross, and their numbers.
-struct TIntSecPoint {
-    TKSLPto fPoint;
-    std::int32_t fID1 = 0;
-    std::int32_t fID2 = 0;
 };
 
 } // namespace vagrel

@@ -135,7 +135,7 @@ public:
     virtual void CheckFit(TKSLExtent& extent) const;
     virtual float GetRefX(int) const { return 0; }
     virtual float GetRefY(int) const { return 0; }
-    /// Reference points offered to snapping, from 1.
+    /// Reference points that guides align, from 1.
     int GetNumRefPoints() const;
     TKSLPto GetRefPoint(int index) const;
     TKSLAlignTypes AlignTypes() const;
@@ -143,8 +143,8 @@ public:
     bool AlignPoints(TKSLAlignType axis, std::int64_t& from, std::int64_t& to) const;
     /// The geometry that crossings are computed from.
     virtual TKSLShape Shape() const;
-    /// Appends the crossings with another item to the document's new crossings.
-    void IntersectsWith(const TVGRBaseItem& other);
+    /// Appends the crossings with another item.
+    void IntersectsWith(const TVGRBaseItem& other, std::vector<TIntSecPoint>& crossings) const;
     /// The chain of points moved sideways by `dist`, to the side of the place.
     void Offset(std::int64_t dist, std::int64_t bx, std::int64_t by, bool closed, TKSLPtoA& points) const;
 
@@ -258,6 +258,8 @@ protected:
                      TKSLRef& ref);
     /// The foot of the perpendicular from the last reference point on a segment.
     static bool SnapFoot(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLPto from, TKSLPto to, TKSLRef& ref);
+    /// Where a line from the last reference point touches the item's circle or arc, or its rim towards the cursor.
+    bool SnapTangent(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLRef& ref) const;
     /// Keeps of two sets only what is given.
     static void Keep(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& props, TKSLInpectorBaseTypes keptBase,
                      TKSLInpectorTypes kept);

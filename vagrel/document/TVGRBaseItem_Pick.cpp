@@ -4,6 +4,7 @@
 
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/Snapping.h>
 #include <vagrel/foundation/TDraw2D.h>
 
 #include <algorithm>
@@ -24,12 +25,6 @@ constexpr TTypes AlignedTypes =
            itPolyText, itRank,      itNutriScore, itLevel,   itSymbol, itSector, itPackage, itRichText} +
     MatrixTypes;
 
-bool Near(std::int64_t a, std::int64_t b, std::int64_t gap) { return a >= SubSat(b, gap) && a <= AddSat(b, gap); }
-
-TKSLPto Middle(TKSLPto a, TKSLPto b) {
-    return {AddSat(a.bX, SubSat(b.bX, a.bX) / 2), AddSat(a.bY, SubSat(b.bY, a.bY) / 2)};
-}
-
 } // namespace
 
 bool TVGRBaseItem::Pick(std::int64_t bx, std::int64_t by, std::int64_t gap, bool) {
@@ -47,7 +42,7 @@ bool TVGRBaseItem::SearchRect(const TKSLRect& rect, bool intersects) const {
 
 bool TVGRBaseItem::Snap(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLPto candidate, TKSRefType type,
                         TKSLRef& ref) {
-    if (!Near(bx, candidate.bX, gap) || !Near(by, candidate.bY, gap))
+    if (!IsNear({bx, by}, candidate, gap))
         return false;
     ref.bX = candidate.bX, ref.bY = candidate.bY;
     ref.FindRef(type);
@@ -60,6 +55,16 @@ bool TVGRBaseItem::SnapFoot(std::int64_t bx, std::int64_t by, std::int64_t gap, 
     return ref.HasLast() &&
            TDraw2D::LinePerpenFromPoint(from.bX, from.bY, to.bX, to.bY, ref.lbX, ref.lbY, true, foot.bX, foot.bY) &&
            Snap(bx, by, gap, foot, rtyRect, ref);
+}
+
+bool TVGRBaseItem::SnapTangent(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLRef& ref) const {
+    const std::optional<TKSLPto> last = ref.HasLast() ? std::optional(TKSLPto{ref.lbX, ref.lbY}) : std::nullopt;
+    const auto hit = TangentPoint(Shape(), {bx, by}, gap, last);
+    if (!hit)
+        return false;
+    ref.bX = hit->bX, ref.bY = hit->bY;
+    ref.FindRef(rtyCircle);
+    return true;
 }
 
 bool TVGRBaseItem::CheckPoint(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLSnap snap, TKSLRef& ref) const {
@@ -137,6 +142,8 @@ TKSLPto TVGRBaseItem::GetRefPoint(int index) const {
                                        {r.Right, middle.bY},
                                        {middle.bX, r.Bottom},
                                        {r.Left, middle.bY}}}[std::size_t(index - 1)];
+    if (const auto* arc = Query<const IKSLArc>(this))
+        return arc->GetPto(index == 1 ? 1 : 3);
     constexpr TTypes own{itPoint, itSymbol, itLine, itArrowLine, itPolyLine, itPolygon};
     if (own.Has(fItemType))
         return GetPoint(index);
@@ -181,11 +188,11 @@ TKSLShape TVGRBaseItem::Shape() const {
                                chain.closed);
 }
 
-void TVGRBaseItem::IntersectsWith(const TVGRBaseItem& other) {
+void TVGRBaseItem::IntersectsWith(const TVGRBaseItem& other, std::vector<TIntSecPoint>& crossings) const {
     TKSLPtoA found;
     CrossShapes(Shape(), other.Shape(), found);
     for (const TKSLPto& point : found)
-        fOwner.AddIntersection(point, fInID, other.fInID);
+        crossings.push_back({point, fInID, other.fInID});
 }
 
 } // namespace vagrel

@@ -10,6 +10,7 @@
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/document/TVGRSettings.h>
 #include <vagrel/editor/TAct.h>
+#include <vagrel/editor/TIntersectThread.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/geo/TVGRMapping.h>
@@ -18,6 +19,7 @@
 #include <vagrel/merge/TVGRData.h>
 #include <vagrel/messages/TVGRMsg.h>
 #include <vagrel/platform/Files.h>
+#include <vagrel/platform/MainThreadQueue.h>
 #include <vagrel/symbols/TVGRBaseLibSymbol.h>
 
 #include <algorithm>
@@ -31,10 +33,11 @@ TVGRBaseLabel* TVGRBaseLabel::Create(TComponent*) {
 }
 
 TVGRBaseLabel::TVGRBaseLabel(TComponent* owner)
-    : TComponent(owner), fPrintInfo(std::make_unique<TVGRBasePrintInfo>(*this)),
-      fData(std::make_unique<TVGRData>(*this)), fMeasure(std::make_unique<TVGRMeasure>(*this)),
-      fMapping(std::make_unique<TVGRMapping>(*this)), fBackSurf(std::make_unique<TVGRBackSurf>(*this, true)),
-      fSettings(std::make_unique<TVGRSettings>(*this)) {
+    : TComponent(owner), fIntersect(std::make_shared<TIntersections>()),
+      fPrintInfo(std::make_unique<TVGRBasePrintInfo>(*this)), fData(std::make_unique<TVGRData>(*this)),
+      fMeasure(std::make_unique<TVGRMeasure>(*this)), fMapping(std::make_unique<TVGRMapping>(*this)),
+      fBackSurf(std::make_unique<TVGRBackSurf>(*this, true)), fSettings(std::make_unique<TVGRSettings>(*this)) {
+    MainThread(); // it belongs to the thread that comes first
     AddBaseLayer();
     AddBaseStyle();
 }
@@ -45,6 +48,7 @@ void TVGRBaseLabel::Teardown() {
     if (fDestroying)
         return;
     fDestroying = true;
+    TerminarThread();
     fMemCopy.clear();
     fObservers.clear();
     Clear({cleAll, cleBaseLayer, cleBaseStyle}, false);

@@ -4,7 +4,7 @@
 // The body of this class is spread by topic: TVGRBaseLabel.cpp (life, identifiers), _Update (update cycle, reading
 // bracket, clearing), _Units (units and values), _Lists (accessors, ownership, layers), _io (JSON), TitleBlock.cpp,
 // _Undo (undo stacks), Selection.cpp, Selection_Move.cpp, Arrange.cpp, svg/SaveSVG.cpp, merge/PageFill.cpp,
-// merge/Values.cpp, merge/FieldLists.cpp.
+// merge/Values.cpp, merge/FieldLists.cpp, editor/Picking.cpp, Snapping.cpp, Handles.cpp, Drag.cpp, Intersections.cpp.
 #pragma once
 
 #include <vagrel/document/Events.h>
@@ -16,7 +16,6 @@
 #include <array>
 #include <functional>
 #include <memory>
-#include <mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +23,8 @@
 namespace vagrel {
 
 class IKSLText;
+class TIntersections;
+class TIntersectThread;
 class TBinaryReader;
 class TBinaryWriter;
 class TJsonObject;
@@ -38,6 +39,7 @@ class TVGRLayer;
 class TVGRMapping;
 class TVGRMeasure;
 class TVGRSettings;
+struct TIntSecPoint;
 enum TVGRCmdKind : std::int32_t;
 struct TKSLExtent;
 struct TVGRCmd;
@@ -157,8 +159,6 @@ public:
     void ClearSelection(bool notify);
     /// The text of the first selected item when it is a text or a rich text, else null.
     IKSLText* GetTextObject() const;
-    int SelPointCount() const { return int(fSelPoint.size()); }
-    void AddIntersection(TKSLPto point, std::int32_t id1, std::int32_t id2);
     /// Takes in the extent of every item that is visible and exported; limits below 0 become 0.
     void CheckFit(TKSLExtent& extent) const;
 
@@ -358,6 +358,71 @@ public:
     std::vector<std::u16string> GetMasterDetailFields(std::u16string_view symName, bool incSymbol,
                                                       bool excludeImg) const;
 
+    // Editor: picking, handles, drags, crossings. Places are base coordinates and `gap` is the tolerance of the pointer
+    // in base units. Searches go from the top item down, over what is visible and selectable.
+
+    /// A click: selects what lies there, or picks it up when it is selected already; Shift adds and takes out. A miss
+    /// clears the selection. With `refLines` the guides are filled. False for a miss.
+    bool SearchSelection(std::int64_t bx, std::int64_t by, std::int64_t gap, TShiftState shift, bool refLines);
+    /// Picks a line-like reference into the selection or out of it; with `apply` runs the geometry action on what lies
+    /// there. False when nothing was hit or changed.
+    bool SearchRef(std::int64_t bx, std::int64_t by, std::int64_t gap, TShiftState shift, bool apply);
+    /// Adds to the selection what lies in the rectangle, or with `cross` what it meets. False when nothing was added.
+    bool SearchRectangle(const TKSLRect& rect, bool cross);
+    /// Puts centre and radius of the lowest circle there, hidden ones included, into slot 1 of the running action.
+    bool SearchCircleAt(std::int64_t bx, std::int64_t by, std::int64_t gap);
+    /// The anchor that a link would attach to. The positions that `link` holds stay except at the first pick.
+    bool SearchLink(std::int64_t ax, std::int64_t ay, TKSLink& link) const;
+    /// Picks up the first selected item when it lies there: the drag of a text in edit.
+    bool SearchSelectedText(std::int64_t ax, std::int64_t ay, std::int64_t gap, TShiftState shift);
+    /// `inside` also accepts the interior of closed shapes; false for no item.
+    bool PickItem(TVGRBaseItem* item, std::int64_t bx, std::int64_t by, std::int64_t gap, bool inside) const;
+    /// The point of kind `snap` that a pointer there snaps to. Crossings are those that were published last.
+    bool SearchPoint(std::int64_t ax, std::int64_t ay, std::int64_t gap, TKSLSnap snap, TKSLRef& ref,
+                     bool excludeSelected) const;
+    /// One pick of the trim, extend, join and equidistant actions. Throws ENotAvailable and resets the action: they are
+    /// not available yet.
+    bool UpdateCurAction(TVGRBaseItem& item, std::int64_t bx, std::int64_t by);
+
+    /// Guides along which the one selected item is aligned with others, four at most.
+    void FillRefLines();
+    void ResetRefLines();
+    int NumRefLines() const { return fNumRefLines; }
+    /// From 1; all zero outside.
+    TKSLRefLine GetRefLine(int index) const;
+    /// Collects the links that are attached to selected items.
+    void FillLinkList();
+
+    int SelPointCount() const { return int(fSelPoint.size()); }
+    /// From 1; an empty one outside.
+    TKSSelectionValue GetSelPoint(int index) const;
+    /// Rebuilds the handles of the selection.
+    void FillSelPoints();
+    /// Rebuilds them in the form for picked references.
+    void FillRefPoints();
+
+    /// One step of a drag that `TAct::SetMove` opened, or of an arrow key. Objects and box handles read `bx`, `by` as
+    /// the step with its sign reversed and `grX`, `grY` as the steps of the grid; the other handles read the pointer's
+    /// place and, where positive, its place on the grid. Records what moves.
+    void MoveEditor(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY, bool refLines,
+                    bool fromKeyboard);
+    /// One step of a drag with the grid on, to the grid point nearest to the pointer; false when nothing moved. With
+    /// several items the first step only notes where they were grabbed.
+    bool MoveGridEditor(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY, bool refLines);
+    /// The point of the first selected item that the action drags. With a grid to `gx`, `gy`; a coordinate of -1, and
+    /// one off the page, stays.
+    bool MoveBasePoint(std::int64_t bx, std::int64_t by, std::int64_t gx, std::int64_t gy, bool refLines,
+                       bool checkBounds);
+
+    /// Starts a computation of all crossings of visible items on a worker; nothing while one runs. The worker reports
+    /// through the queue of the main thread, which the host pumps.
+    void CheckIntersetions();
+    /// True from the start of a computation until its end was reported.
+    bool GetComputActive() const { return fComputActive; }
+    /// The crossings that were published last, in rising pairs of items.
+    std::vector<TIntSecPoint> GetIntersections() const;
+    void RemoveElementFromIntersections(std::int32_t id);
+
     // Title block, files, export
 
     /// Writes the drawing's title block out of the measure: all of it with `reset`, else the three texts.
@@ -479,13 +544,6 @@ private:
 
     void CalcPending();
     void FinishUpdate();
-    void FillSelPoints();
-    void FillRefLines();
-    void FillLinkList();
-    void ResetRefLines();
-    void ResetMultiDragState();
-    void CheckIntersetions();
-    void EmptyIntersect();
     /// Resolves what items refer to by stored numbers.
     void AssignSymbolAndFlowLinks();
     /// Arrow lines that show the unit measure themselves again; true when there is one.
@@ -521,7 +579,6 @@ private:
     // Selection and arrangement
 
     bool SelectNeighbour(bool forward);
-    void RemoveElementFromIntersections(std::int32_t id);
     void CalcLinks();
     /// The items whose inner layout follows a move, and the links.
     void Recalculate();
@@ -532,6 +589,28 @@ private:
     void SameSize(TKSLAlignType axis);
     void Turn(bool left);
     void MoveInZOrder(bool front);
+
+    // Editor: picking, handles, drags, crossings
+
+    /// The topmost item that is visible, selectable and `wanted`; null for none. All searches by place come here, so
+    /// that an index of places can stand here.
+    template <class Wanted>
+    TVGRBaseItem* TopItem(Wanted wanted) const;
+    /// Takes an item out of the selection and tells the host.
+    void Unselect(TVGRBaseItem& item);
+    /// Tells of a new selection; a single text of the given types that is not bound to data is opened instead.
+    void SelectionPicked(TKSLSet<TKSLItemType> texts);
+    /// Hides the first selected item and has the host open it in its text editor.
+    void EditSelText();
+    void ResetMultiDragState();
+    /// A step of the drag; false when nothing moved. `DragRadius` and `DragShape` take the pointer's place.
+    bool Drag(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY, bool refLines);
+    bool DragRadius(TKSLPto pointer);
+    bool DragShape(TKSLPto pointer);
+    void ThreadFinished();
+    /// Ends the computation, waiting up to three seconds, and pumps the queue of the main thread meanwhile.
+    void TerminarThread();
+    void EmptyIntersect();
 
     // Data
     void ActivateBindings();
@@ -549,9 +628,9 @@ private:
     TOwned<TVGRBaseItem> fItems;
     TOwned<TVGRBaseItem> fPreview;
     TOwned<TVGRBaseLibSymbol> fSymbols;
-    std::vector<TIntSecPoint> fIntersect;
-    std::vector<TIntSecPoint> newIntersectList;
-    std::mutex fCriticalSection;
+    std::shared_ptr<TIntersections> fIntersect;
+    std::unique_ptr<TIntersectThread> fThread;
+    bool fComputActive = false, fTerminando = false;
     TKSLUnits fUnits = unMM;
     std::unique_ptr<TVGRBasePrintInfo> fPrintInfo;
     std::unique_ptr<TVGRData> fData;

@@ -101,7 +101,9 @@ void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
     std::erase(fLinks, &item);
     std::erase(fCalcs, &item);
     std::erase_if(fSelPoint, [&](const TKSSelectionValue& handle) { return handle.Item == &item; });
-    RemoveElementFromIntersections(item.GetInID());
+    // Preview copies have the number of the item that they show.
+    if (!item.FromPreview())
+        RemoveElementFromIntersections(item.GetInID());
 }
 
 void TVGRBaseLabel::FreeItem(TVGRBaseItem& item) {

@@ -383,36 +383,4 @@ bool TVGRBaseLabel::DoDblClick() {
     return true;
 }
 
-// Handles and crossings join with the editor; until then there are none to rebuild.
-
-void TVGRBaseLabel::FillSelPoints() { fSelPoint.clear(); }
-void TVGRBaseLabel::FillRefLines() { ResetRefLines(); }
-void TVGRBaseLabel::FillLinkList() { fLinks.clear(); }
-void TVGRBaseLabel::CheckIntersetions() {}
-
-void TVGRBaseLabel::ResetRefLines() {
-    fRefLines = {};
-    fNumRefLines = 0;
-}
-
-void TVGRBaseLabel::ResetMultiDragState() {
-    fMultiDragLastX = fMultiDragLastY = 0;
-    fMultiDragHasLast = false;
-}
-
-void TVGRBaseLabel::EmptyIntersect() {
-    const std::scoped_lock guard(fCriticalSection);
-    fIntersect.clear();
-}
-
-void TVGRBaseLabel::RemoveElementFromIntersections(std::int32_t id) {
-    const std::scoped_lock guard(fCriticalSection);
-    std::erase_if(fIntersect,
-                  [id](const TIntSecPoint& crossing) { return crossing.fID1 == id || crossing.fID2 == id; });
-}
-
-void TVGRBaseLabel::AddIntersection(TKSLPto point, std::int32_t id1, std::int32_t id2) {
-    newIntersectList.push_back({point, id1, id2});
-}
-
 } // namespace vagrel

@@ -3,6 +3,7 @@
 #include <vagrel/document/TVGRBasePoint.h>
 
 #include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/Snapping.h>
 
 namespace vagrel {
 
@@ -10,8 +11,6 @@ namespace {
 
 constexpr std::int64_t Reach = 500;
 constexpr std::int64_t LinkReach = 1000;
-
-bool Near(std::int64_t a, std::int64_t b, std::int64_t gap) { return a >= SubSat(b, gap) && a <= AddSat(b, gap); }
 
 } // namespace
 
@@ -27,8 +26,7 @@ void TVGRBasePoint::UpdateBounds() {
 }
 
 bool TVGRBasePoint::Pick(std::int64_t bx, std::int64_t by, std::int64_t gap, bool) {
-    const TKSLPto point = GetPoint(1);
-    return Near(bx, point.bX, SubSat(gap, 1)) && Near(by, point.bY, SubSat(gap, 1));
+    return IsNear({bx, by}, GetPoint(1), SubSat(gap, 1));
 }
 
 bool TVGRBasePoint::CheckPoint(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLSnap snap, TKSLRef& ref) const {
@@ -41,7 +39,7 @@ void TVGRBasePoint::CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& pr
 
 bool TVGRBasePoint::CheckLink(std::int64_t bx, std::int64_t by, TKSLink& link) const {
     const TKSLPto point = GetPoint(1);
-    if (!Near(bx, point.bX, LinkReach) || !Near(by, point.bY, LinkReach))
+    if (!IsNear({bx, by}, point, LinkReach))
         return false;
     link.ID = GetInID();
     link.draw = true;

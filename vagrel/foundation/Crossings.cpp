@@ -35,6 +35,22 @@ TKSLShape TKSLShape::Ellipse(std::int64_t x, std::int64_t y, std::int64_t radius
     return shape;
 }
 
+TKSLRect BoundsOf(const TKSLShape& shape) {
+    TKSLRect box;
+    if (shape.kind == skSegments) {
+        for (const TKSLPto& point : shape.points) {
+            if (&point == &shape.points.front())
+                box = {point.bX, point.bY, point.bX, point.bY};
+            box = {std::min(box.Left, point.bX), std::min(box.Top, point.bY), std::max(box.Right, point.bX),
+                   std::max(box.Bottom, point.bY)};
+        }
+        return box;
+    }
+    box = {shape.cx, shape.cy, shape.cx, shape.cy};
+    box.Inflate(shape.rx, shape.kind == skEllipse ? shape.ry : shape.rx);
+    return box;
+}
+
 namespace {
 
 // What figures may miss each other by and still touch, in base units.
@@ -81,22 +97,6 @@ void ForEachSegment(const TKSLShape& shape, Use use) {
         use(shape.points[i], shape.points[i + 1]);
     if (shape.closed && count > 2)
         use(shape.points[count - 1], shape.points[0]);
-}
-
-TKSLRect Bounds(const TKSLShape& shape) {
-    TKSLRect box;
-    if (shape.kind == skSegments) {
-        for (const TKSLPto& point : shape.points) {
-            if (&point == &shape.points.front())
-                box = {point.bX, point.bY, point.bX, point.bY};
-            box = {std::min(box.Left, point.bX), std::min(box.Top, point.bY), std::max(box.Right, point.bX),
-                   std::max(box.Bottom, point.bY)};
-        }
-        return box;
-    }
-    box = {shape.cx, shape.cy, shape.cx, shape.cy};
-    box.Inflate(shape.rx, shape.kind == skEllipse ? shape.ry : shape.rx);
-    return box;
 }
 
 bool Apart(std::int64_t a1, std::int64_t a2, std::int64_t b1, std::int64_t b2) {
@@ -248,7 +248,7 @@ void CrossShapes(const TKSLShape& a, const TKSLShape& b, std::vector<TKSLPto>& o
     for (const TKSLShape* shape : {&a, &b})
         if (isCurve(*shape) ? !Oval(*shape).IsValid() : shape->kind != skSegments || shape->points.size() < 2)
             return;
-    TKSLRect boxOfA = Bounds(a), boxOfB = Bounds(b);
+    TKSLRect boxOfA = BoundsOf(a), boxOfB = BoundsOf(b);
     boxOfB.Inflate(2, 2);
     if (Apart(boxOfA.Left, boxOfA.Right, boxOfB.Left, boxOfB.Right) ||
         Apart(boxOfA.Top, boxOfA.Bottom, boxOfB.Top, boxOfB.Bottom))

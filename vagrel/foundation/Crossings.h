@@ -34,6 +34,18 @@ struct TKSLShape {
     static TKSLShape Ellipse(std::int64_t x, std::int64_t y, std::int64_t radiusX, std::int64_t radiusY);
 };
 
+/// Where two items cross, and their numbers.
+struct TIntSecPoint {
+    TKSLPto fPoint;
+    std::int32_t fID1 = 0;
+    std::int32_t fID2 = 0;
+
+    friend bool operator==(const TIntSecPoint&, const TIntSecPoint&) = default;
+};
+
+/// The box of a figure; that of an arc is the box of its circle. All zero for a figure without points.
+TKSLRect BoundsOf(const TKSLShape& shape);
+
 /// Replaces `out` by the points that two figures have in common: crossings, touches, and ends of one on the other, each
 /// once, rounded to base units.
 ///

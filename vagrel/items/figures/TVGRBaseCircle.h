@@ -24,9 +24,6 @@ public:
     bool CheckPoint(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLSnap snap, TKSLRef& ref) const override;
     void CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& props) const override;
     void WriteSVG(TSVGOutput& out) const override { WriteCircle(out); }
-
-private:
-    bool SnapTangent(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLRef& ref) const;
 };
 
 } // namespace vagrel

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+// Guides along which points are aligned.
+#pragma once
+
+#include <vagrel/foundation/Records.h>
+
+#include <array>
+
+namespace vagrel {
+
+/// A table of four guides, filled from the front.
+struct RefLines {
+    std::array<TKSLRefLine, 4>& lines;
+    int& count;
+
+    bool IsFull() const { return count == int(lines.size()); }
+    /// Adds the guide from `a` to `b` when they share a coordinate exactly: a vertical one for the same x, else a
+    /// horizontal one. An earlier guide on that line that reached farther is shortened to end in `b`. Nothing when the
+    /// table is full.
+    void Align(TKSLPto a, TKSLPto b);
+};
+
+} // namespace vagrel

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+// Work that other threads hand to the application's main thread.
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <cstddef>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+namespace vagrel {
+
+/// Closures that wait for the main thread, in the order in which they came. The application pumps the queue from its
+/// event loop; `SetWakeUp` lets it hear of new work.
+///
+/// The main thread is the one that constructed the queue, until another one calls `Bind`.
+class MainThreadQueue {
+public:
+    using TWork = std::function<void()>;
+
+    bool IsMainThread() const;
+    void Bind();
+    /// Called on the posting thread after each post.
+    void SetWakeUp(TWork wakeUp);
+
+    /// Leaves work to be done and goes on. Any thread; nothing happens on a closed queue.
+    void Post(TWork work);
+    /// Has work done and waits for it; what it throws is thrown here. Any thread; on the main thread it is done at
+    /// once. Throws EInvalidOperation when the queue is closed, also while it waits for work that was not begun.
+    void Synchronize(const TWork& work);
+
+    /// Does what waits at the moment and answers how much that was. Main thread. An exception of posted work comes out;
+    /// what stands behind it waits for the next call.
+    std::size_t Pump();
+    /// The same after waiting for work, so long at most.
+    std::size_t WaitAndPump(std::chrono::milliseconds atMost);
+
+    /// Drops what waits and refuses new work.
+    void Close();
+    void Open();
+
+private:
+    struct TCall;
+    struct TEntry {
+        TWork work;
+        TCall* call; ///< who waits for it; null for a post
+    };
+
+    void Append(TEntry entry);
+    bool RunNext();
+
+    mutable std::mutex fLock;
+    std::condition_variable fChanged;
+    std::deque<TEntry> fWaiting;
+    std::thread::id fMain = std::this_thread::get_id();
+    TWork fWakeUp;
+    bool fClosed = false;
+};
+
+/// The queue of the process. Every document touches it when it is constructed, on the main thread.
+MainThreadQueue& MainThread();
+
+} // namespace vagrel
