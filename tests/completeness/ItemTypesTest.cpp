@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+// What an item type must have before it counts as there: a name, a class, a factory, a sample in the shared suite, an
+// SVG form and a painting. The suites of items and of paintings go through the same list of types, so that a type
+// without a sample, or without its file forms, fails there.
+#include <tests/support/ItemSuite.h>
+
+#include <host/ItemRegistry.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/foundation/Exceptions.h>
+#include <vagrel/foundation/Text.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <set>
+
+namespace vagrel::test {
+namespace {
+
+constexpr std::int64_t U = 1000;
+
+struct TFactory {
+    TKSLItemType type;
+    std::function<TVGRBaseItem&(TVGRBaseLabel&)> make;
+};
+
+const TKSLPto A{10 * U, 10 * U}, B{40 * U, 30 * U}, C{20 * U, 50 * U};
+
+// clang-format off
+const TFactory Factories[] = {
+    {itPoint, [](auto& label) -> auto& { return label.CreatePoint(U, U); }},
+    {itLine, [](auto& label) -> auto& { return label.CreateLine(U, U, 2 * U, 2 * U); }},
+    {itArrowLine, [](auto& label) -> auto& { return label.CreateArrowLine(U, U, 2 * U, 2 * U); }},
+    {itPolyLine, [](auto& label) -> auto& { return label.CreatePolyLine({A, B, C}); }},
+    {itArc, [](auto& label) -> auto& { return label.CreateArc(A, B, C); }},
+    {itRectangle, [](auto& label) -> auto& { return label.CreateRectangle(U, U, U, U); }},
+    {itPolygon, [](auto& label) -> auto& { return label.CreatePolygon({A, B, C}); }},
+    {itCircle, [](auto& label) -> auto& { return label.CreateCircle(B, U); }},
+    {itCircle, [](auto& label) -> auto& { return label.CreateCircle2P(A, B); }},
+    {itCircle, [](auto& label) -> auto& { return label.CreateCircle3P(A, B, C); }},
+    {itEllipse, [](auto& label) -> auto& { return label.CreateEllipse(B, U, 2 * U); }},
+    {itText, [](auto& label) -> auto& { return label.CreateText(U, U); }},
+    {itPara, [](auto& label) -> auto& { return label.CreatePara(U, U, U, U); }},
+    {itBarcode, [](auto& label) -> auto& { return label.CreateBarcode(U, U, u"123", btCODE39); }},
+    {itPDF417, [](auto& label) -> auto& { return label.CreatePDF417(U, U, u"123"); }},
+    {itDataMatrix, [](auto& label) -> auto& { return label.CreateDataMatrix(U, U, u"123"); }},
+    {itQRCode, [](auto& label) -> auto& { return label.CreateQRCode(U, U, u"123"); }},
+    {itImage, [](auto& label) -> auto& { return label.CreateImage(U, U, U, U, true, u""); }},
+    {itFlow, [](auto& label) -> auto& { return label.CreateFlow(U, U, U, U, ftProcess); }},
+    {itLink, [](auto& label) -> auto& { return label.CreateLink({}, {}, ltDirLine); }},
+    {itLink, [](auto& label) -> auto& { return label.CreatePolyLink({}, {}, ltPolyline, {A, B}); }},
+    {itTable, [](auto& label) -> auto& { return label.CreateTable(U, U, U, U); }},
+    {itPolyText, [](auto& label) -> auto& { return label.CreatePolyText(U, U); }},
+    {itRank, [](auto& label) -> auto& { return label.CreateRank(U, U, U, U); }},
+    {itNutriScore, [](auto& label) -> auto& { return label.CreateNutriScore(U, U, U, U); }},
+    {itLevel, [](auto& label) -> auto& { return label.CreateLevel(B, U); }},
+    {itSymbol, [](auto& label) -> auto& { return label.CreateSymbol(U, U); }},
+    {itBezier, [](auto& label) -> auto& { return label.CreateBezier({A, B, C, A}); }},
+    {itDim, [](auto& label) -> auto& { return label.CreateDim(A, B, C); }},
+    {itDim, [](auto& label) -> auto& { return label.CreateDimAng({}, {}, C); }},
+    {itDim, [](auto& label) -> auto& { return label.CreateDimRad1(A, U, 1); }},
+    {itDim, [](auto& label) -> auto& { return label.CreateDimRad2(A, U, 1); }},
+    {itDim, [](auto& label) -> auto& { return label.CreateDimDia1(A, U, 1); }},
+    {itDim, [](auto& label) -> auto& { return label.CreateDimDia2(A, U, 1); }},
+    {itSector, [](auto& label) -> auto& { return label.CreateSector(B, U, 0, 90); }},
+    {itSector, [](auto& label) -> auto& { return label.CreateSector2P(A, B, 0, 90); }},
+    {itSector, [](auto& label) -> auto& { return label.CreateSector3P(A, B, C, 0, 90); }},
+    {itPackage, [](auto& label) -> auto& { return label.CreatePackage(U, U, U, U); }},
+    {itRichText, [](auto& label) -> auto& { return label.CreateRichText(U, U, U, U); }},
+};
+// clang-format on
+
+std::set<TKSLItemType> Available() {
+    const auto types = AvailableItemTypes();
+    std::set<TKSLItemType> all(types.begin(), types.end());
+    EXPECT_EQ(all.size(), types.size()) << "a type stands twice in the registry";
+    return all;
+}
+
+TEST(Completeness, EveryTypeIsThereOrSaysThatItIsNot) {
+    const auto available = Available();
+    std::set<std::u16string_view> names;
+    for (int number = itPoint; number <= itRichText; ++number) {
+        const auto type = TKSLItemType(number);
+        const std::string name = ToUtf8(NameItem(type));
+        SCOPED_TRACE(name);
+        EXPECT_TRUE(names.insert(NameItem(type)).second);
+        EXPECT_TRUE(std::ranges::count(Factories, type, &TFactory::type)) << "no factory";
+        TestHost label;
+        if (available.contains(type)) {
+            EXPECT_EQ(MakeItem(label, label.ActiveLayer(), type, 4).GetItemType(), type);
+            EXPECT_TRUE(SampleOf(type)) << "not in the shared suite";
+            continue;
+        }
+        EXPECT_FALSE(SampleOf(type));
+        try {
+            MakeItem(label, label.ActiveLayer(), type, 4);
+            ADD_FAILURE() << "made, and not in the registry";
+        } catch (const ENotAvailable& error) {
+            EXPECT_NE(std::string(error.what()).find(name), std::string::npos) << error.what();
+        }
+        EXPECT_EQ(label.ItemsCount(), 0);
+    }
+}
+
+TEST(Completeness, FactoriesMakeWhatTheyAreNamedFor) {
+    const auto available = Available();
+    for (const TFactory& factory : Factories) {
+        SCOPED_TRACE(ToUtf8(NameItem(factory.type)));
+        TestHost label;
+        if (available.contains(factory.type)) {
+            const TVGRBaseItem& item = factory.make(label);
+            EXPECT_EQ(item.GetItemType(), factory.type);
+            EXPECT_EQ(label.ItemsCount(), 1);
+            EXPECT_EQ(&item.GetLayer(), &label.ActiveLayer());
+        } else {
+            EXPECT_THROW(factory.make(label), ENotAvailable);
+            EXPECT_EQ(label.ItemsCount(), 0);
+        }
+    }
+}
+
+// Types that leave nothing in a picture, and why.
+struct TInvisible {
+    TKSLItemType type;
+    const char* reason;
+};
+constexpr TInvisible NotInSvg[] = {{itPoint, "a mark for the editor alone"}};
+
+// In the unit that the suite's setters expect.
+struct Drawing : TestHost {
+    Drawing() : TestHost(emDrawing, unCM, 10) { GetMeasure().SetLabelSizeMM(1000, 800); }
+};
+
+TEST(Completeness, EveryTypeHasAnSvgForm) {
+    const std::string blank = Drawing().SVG(svCurrentUnit, 1, false);
+    for (const TKSLItemType type : AvailableItemTypes()) {
+        SCOPED_TRACE(ToUtf8(NameItem(type)));
+        Drawing label;
+        const TItemSample* sample = SampleOf(type);
+        ASSERT_TRUE(sample);
+        SetEverything(MakeSample(label, *sample));
+        const bool drawn = label.SVG(svCurrentUnit, 1, false) != blank;
+        EXPECT_EQ(drawn, !std::ranges::count(NotInSvg, type, &TInvisible::type));
+    }
+}
+
+} // namespace
+} // namespace vagrel::test

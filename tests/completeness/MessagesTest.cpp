@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+// The keys of texts that the sources ask for, against the table of texts.
+#include <tests/completeness/Sources.h>
+
+#include <vagrel/foundation/Text.h>
+#include <vagrel/messages/ListNames.h>
+#include <vagrel/messages/TVGRMsg.h>
+
+namespace vagrel::test {
+namespace {
+
+constexpr std::u16string_view NotFound = u"not found";
+
+struct TGroup {
+    std::string_view name;
+    std::u16string (*lookup)(std::u16string_view);
+};
+
+constexpr TGroup Groups[] = {
+    {"Error", TVGRMsg::GetErrorValue},     {"Info", TVGRMsg::GetInfoValue},       {"Command", TVGRMsg::GetCommandValue},
+    {"Prop", TVGRMsg::GetPropValue},       {"Dialogs", TVGRMsg::GetDialogsValue}, {"Editor", TVGRMsg::GetEditorValue},
+    {"Actions", TVGRMsg::GetActionsValue}, {"List", TVGRMsg::GetListValue},
+};
+
+void Expect(const std::string& group, const std::string& key, const std::filesystem::path& file) {
+    for (const TGroup& row : Groups)
+        if (row.name == group) {
+            EXPECT_NE(row.lookup(FromUtf8(key)), NotFound) << group << " has no " << key << ", asked for in " << file;
+            return;
+        }
+    ADD_FAILURE() << "no group " << group << " in " << file;
+}
+
+TEST(Completeness, EveryKeyThatIsAskedForHasAText) {
+    static const std::regex call(R"(TVGRMsg::Get(\w+)Value\(([^)]*)\))"), literal(R"!(u"(\w+)")!");
+    int keys = 0;
+    ForEachSource({".cpp", ".h"}, [&](const std::filesystem::path& file, const std::string& text) {
+        ForEachMatch(text, call, [&](const std::smatch& match) {
+            const std::string group = match[1];
+            // Both of a choice between two.
+            ForEachMatch(match[2].str(), literal, [&](const std::smatch& key) { Expect(group, key[1], file), ++keys; });
+        });
+        // These come from tables.
+        if (file.filename() == "TAct_Tables.cpp")
+            ForEachMatch(text, literal, [&](const std::smatch& key) { Expect("Actions", key[1], file), ++keys; });
+    });
+    EXPECT_GT(keys, 60);
+}
+
+TEST(Completeness, EveryListNamesItsChoices) {
+    for (int kind = lpLayer; kind <= lpBoxStyle; ++kind) {
+        std::vector<std::u16string> names;
+        FillList(TKSListProp(kind), names);
+        for (const std::u16string& name : names)
+            EXPECT_TRUE(!name.empty() && name != NotFound) << "list " << kind;
+    }
+}
+
+} // namespace
+} // namespace vagrel::test
