@@ -46,7 +46,7 @@ void BM_AllCrossings(benchmark::State& state) {
         benchmark::DoNotOptimize(AllCrossings(figures, stop, found));
     state.counters["hits"] = double(found.size());
 }
-BENCHMARK(BM_AllCrossings)->Arg(20000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_AllCrossings)->Name("Crossings/Vagrel")->Arg(20000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 TBox BoxOf(const TFigure& figure) {
     const TKSLRect box = BoundsOf(figure.shape);
@@ -86,7 +86,7 @@ void BM_TreeJoin(benchmark::State& state) {
     }
     state.counters["hits"] = double(hits);
 }
-BENCHMARK(BM_TreeJoin)->Arg(20000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_TreeJoin)->Name("Crossings/Boost join")->Arg(20000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 // With the library's test of two segments.
 void BM_TreeJoinItsOwnTest(benchmark::State& state) {
@@ -108,7 +108,7 @@ void BM_TreeJoinItsOwnTest(benchmark::State& state) {
     }
     state.counters["hits"] = double(hits);
 }
-BENCHMARK(BM_TreeJoinItsOwnTest)->Arg(20000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_TreeJoinItsOwnTest)->Name("Crossings/Boost join and test")->Arg(20000)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace vagrel

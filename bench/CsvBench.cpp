@@ -56,8 +56,8 @@ void SplitLibcsv(benchmark::State& state) {
     state.SetBytesProcessed(std::int64_t(text.size()) * std::int64_t(state.iterations()));
 }
 
-BENCHMARK(SplitVagrel)->Unit(benchmark::kMillisecond);
-BENCHMARK(SplitLibcsv)->Unit(benchmark::kMillisecond);
+BENCHMARK(SplitVagrel)->Name("Csv/Vagrel")->Unit(benchmark::kMillisecond);
+BENCHMARK(SplitLibcsv)->Name("Csv/libcsv")->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace vagrel

@@ -158,13 +158,13 @@ void HeapOfTree(benchmark::State& state) {
     }
 }
 
-BENCHMARK(ParseVagrel)->Unit(benchmark::kMillisecond);
-BENCHMARK(ParseRapid)->Unit(benchmark::kMillisecond);
-BENCHMARK(ParseAndFreeVagrel)->Unit(benchmark::kMillisecond);
-BENCHMARK(ParseAndFreeRapid)->Unit(benchmark::kMillisecond);
-BENCHMARK(WriteVagrel)->Unit(benchmark::kMillisecond);
-BENCHMARK(WriteRapid)->Unit(benchmark::kMillisecond);
-BENCHMARK(CloneVagrel)->Unit(benchmark::kMillisecond);
+BENCHMARK(ParseVagrel)->Name("Json parse/Vagrel")->Unit(benchmark::kMillisecond);
+BENCHMARK(ParseRapid)->Name("Json parse/RapidJSON")->Unit(benchmark::kMillisecond);
+BENCHMARK(ParseAndFreeVagrel)->Name("Json parse and free/Vagrel")->Unit(benchmark::kMillisecond);
+BENCHMARK(ParseAndFreeRapid)->Name("Json parse and free/RapidJSON")->Unit(benchmark::kMillisecond);
+BENCHMARK(WriteVagrel)->Name("Json write/Vagrel")->Unit(benchmark::kMillisecond);
+BENCHMARK(WriteRapid)->Name("Json write/RapidJSON")->Unit(benchmark::kMillisecond);
+BENCHMARK(CloneVagrel)->Name("Json clone/Vagrel")->Unit(benchmark::kMillisecond);
 BENCHMARK(HeapOfTree)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 } // namespace

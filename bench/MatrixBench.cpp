@@ -96,12 +96,12 @@ void PDF417_zint(benchmark::State& state) {
     }
 }
 
-BENCHMARK(QR)->Arg(64)->Arg(2900);
-BENCHMARK(QR_libqrencode)->Arg(64)->Arg(2900);
-BENCHMARK(DataMatrix)->Arg(64);
-BENCHMARK(DataMatrix_ZXing)->Arg(64);
-BENCHMARK(PDF417)->Arg(200);
-BENCHMARK(PDF417_zint)->Arg(200);
+BENCHMARK(QR)->Name("QR/Vagrel")->Arg(64)->Arg(2900);
+BENCHMARK(QR_libqrencode)->Name("QR/libqrencode")->Arg(64)->Arg(2900);
+BENCHMARK(DataMatrix)->Name("DataMatrix/Vagrel")->Arg(64);
+BENCHMARK(DataMatrix_ZXing)->Name("DataMatrix/ZXing")->Arg(64);
+BENCHMARK(PDF417)->Name("PDF417/Vagrel")->Arg(200);
+BENCHMARK(PDF417_zint)->Name("PDF417/zint")->Arg(200);
 
 } // namespace
 } // namespace vagrel

@@ -72,8 +72,8 @@ void Run(benchmark::State& state, Build build) {
     state.SetBytesProcessed(bytes);
 }
 
-BENCHMARK_CAPTURE(Run, SvgElement, BySvgElement)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Run, fmt, ByFmt)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Run, SvgElement, BySvgElement)->Name("Svg lines/Vagrel")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Run, fmt, ByFmt)->Name("Svg lines/fmt")->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace vagrel

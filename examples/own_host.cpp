@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+// A host of one's own: a document that measures texts in cells of a terminal and paints itself with characters. It
+// makes lines, boxes, circles and texts; all else says that it is not there.
+//
+//     example_own_host FILE.txt
+#include <vagrel/document/PartialLabel.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/foundation/Exceptions.h>
+#include <vagrel/foundation/TVGRBaseDraw.h>
+#include <vagrel/foundation/Text.h>
+#include <vagrel/items/figures/TVGRBaseCircle.h>
+#include <vagrel/items/figures/TVGRBaseRectangle.h>
+#include <vagrel/items/lines/TVGRBaseLine.h>
+#include <vagrel/items/text/TVGRBaseText.h>
+#include <vagrel/persistence/TBinaryWriter.h>
+#include <vagrel/platform/Files.h>
+
+#include <cmath>
+#include <iostream>
+#include <numbers>
+
+using namespace vagrel;
+
+namespace {
+
+constexpr double CellWidth = 1000, CellHeight = 2000; // base units: 1 mm × 2 mm
+
+// What items are painted on. The context of a host may hold whatever its painter needs.
+struct Screen : TVGRBaseDraw {
+    std::vector<std::string> rows;
+
+    void Put(double x, double y, char character) const {
+        const auto column = std::size_t(x / CellWidth), row = std::size_t(y / CellHeight);
+        if (row < rows.size() && column < rows[row].size())
+            const_cast<std::string&>(rows[row])[column] = character; // items get a context that they only read
+    }
+    void Line(TKSLPto from, TKSLPto to, char character) const {
+        const double dx = double(to.bX - from.bX), dy = double(to.bY - from.bY);
+        const double steps = std::max({1.0, std::abs(dx) / CellWidth, std::abs(dy) / CellHeight});
+        for (double i = 0; i <= steps; ++i)
+            Put(double(from.bX) + dx * i / steps, double(from.bY) + dy * i / steps, character);
+    }
+};
+
+// One function a family.
+void Paint(const TVGRBaseLine& line, const Screen& screen) { screen.Line(line.GetPoint(1), line.GetPoint(2), '.'); }
+
+void Paint(const TVGRBaseRectangle& box, const Screen& screen) {
+    const TKSLPto a = box.GetPoint(1), b = box.GetPoint(2);
+    for (const std::int64_t y : {a.bY, b.bY})
+        screen.Line({a.bX, y}, {b.bX, y}, '-');
+    for (const std::int64_t x : {a.bX, b.bX})
+        screen.Line({x, a.bY}, {x, b.bY}, '|');
+    for (const TKSLPto& corner : {a, b, TKSLPto{a.bX, b.bY}, TKSLPto{b.bX, a.bY}})
+        screen.Line(corner, corner, '+');
+}
+
+void Paint(const TVGRBaseCircle& circle, const Screen& screen) {
+    const double radius = double(circle.GetPoint(2).bX - circle.GetPoint(1).bX) / 2;
+    for (double angle = 0; angle < 2 * std::numbers::pi; angle += 0.02)
+        screen.Put(double(circle.GetBaseCenterX()) + radius * std::cos(angle),
+                   double(circle.GetBaseCenterY()) + radius * std::sin(angle), 'o');
+}
+
+void Paint(const TVGRBaseText& text, const Screen& screen) {
+    const TKSLRect& place = text.BoundsRect();
+    double x = double(place.Left);
+    for (const char16_t letter : text.GetDText())
+        screen.Put(x, double(place.Top), letter < 128 ? char(letter) : '?'), x += CellWidth;
+}
+
+// Makes any family an item of this host.
+template <class Family>
+struct Own : Family {
+    using Family::Family;
+    void DrawItem(const TVGRBaseDraw& draw) override { Paint(*this, static_cast<const Screen&>(draw)); }
+    void PrintItem(const TVGRBaseDraw& draw) override { DrawItem(draw); }
+};
+
+// A text measures itself: a cell for each character, one cell high.
+struct OwnText : Own<TVGRBaseText> {
+    using Own::Own;
+    void CalcValues(int kind) override {
+        Own::CalcValues(kind);
+        const auto height = std::int32_t(CellHeight), ascent = height * 4 / 5;
+        StoreMeasure({std::int32_t(GetDText().size() * CellWidth), height, ascent, height - ascent, 0, 1});
+    }
+};
+
+class TextLabel : public PartialLabel {
+public:
+    TextLabel() : PartialLabel(nullptr) { Loaded(); }
+    ~TextLabel() override { Teardown(); } // while the items' own code still stands
+
+    std::string Picture() const {
+        Screen screen;
+        screen.rows.assign(std::size_t(double(GetMeasure().GetSize(mtLabelHeight, true)) / CellHeight),
+                           std::string(std::size_t(double(GetMeasure().GetSize(mtLabelWidth, true)) / CellWidth), ' '));
+        for (int i = 1; i <= ItemsCount(); ++i)
+            GetItem(i)->DrawElement(screen);
+        std::string picture;
+        for (const std::string& row : screen.rows)
+            picture += row.substr(0, row.find_last_not_of(' ') + 1) + '\n';
+        return picture;
+    }
+
+    // All items of this host come from here.
+    Item& Make(TKSLItemType type, const TKSLPtoA& points) {
+        Item& item = type == itLine        ? *new Own<TVGRBaseLine>(*this, ActiveLayer(), false)
+                     : type == itRectangle ? *new Own<TVGRBaseRectangle>(*this, ActiveLayer(), false)
+                     : type == itCircle    ? *new Own<TVGRBaseCircle>(*this, ActiveLayer(), false)
+                     : type == itText      ? static_cast<Item&>(*new OwnText(*this, ActiveLayer(), false))
+                                           : throw ENotAvailable(u"This host has no such item");
+        item.AssignPoints(points);
+        return item;
+    }
+    Item& CreateLine(TLength x1, TLength y1, TLength x2, TLength y2) override {
+        return Make(itLine, {{x1, y1}, {x2, y2}});
+    }
+    Item& CreateRectangle(TLength x, TLength y, TLength width, TLength height) override {
+        return Make(itRectangle, {{x, y}, {x + width, y + height}});
+    }
+    Item& CreateCircle(TKSLPto center, TLength radius) override {
+        return Make(itCircle, {{center.bX - radius, center.bY - radius}, {center.bX + radius, center.bY + radius}});
+    }
+    Item& CreateText(TLength x, TLength y) override { return Make(itText, {{x, y}}); }
+
+    // An item is made from its bytes when its deletion is undone.
+    Item& CreateElementFromStream(std::string_view snapshot) override {
+        TBinaryReader reader(snapshot);
+        const auto version = reader.Read<std::int32_t>();
+        Item& item = Make(TKSLItemType(reader.Read<std::int32_t>()), {});
+        item.ReadData(version, reader, rdNormal);
+        return item;
+    }
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: " << argv[0] << " FILE.txt\n";
+        return 2;
+    }
+    TextLabel label;
+    label.GetMeasure().SetLabelSizeMM(64, 40);
+    label.CreateRectangle(1000, 1000, 61000, 37000);
+    TVGRBaseItem& circle = label.CreateCircle({48000, 20000}, 12000);
+    label.CreateLine(4000, 34000, 34000, 26000);
+    {
+        const UpdateScope measuring(label);
+        auto& text = dynamic_cast<TVGRBaseText&>(label.CreateText(48000, 20000));
+        text.SetHorzAlign(haCenter);
+        text.SetVertAlign(vaCenter);
+        text.SetText(u"A host of my own");
+    }
+    label.DeleteItem(circle, true);
+    label.Undo(); // made anew, by CreateElementFromStream
+    const std::string picture = label.Picture();
+    std::cout << picture;
+    WriteFile(argv[1], picture);
+    if (picture.find("A host of my own") == std::string::npos || picture.find('o') == std::string::npos)
+        return 1;
+}
