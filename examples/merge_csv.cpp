@@ -5,6 +5,7 @@
 #include <host/HostLabel.h>
 #include <vagrel/document/TVGRBasePrintInfo.h>
 #include <vagrel/foundation/Text.h>
+#include <vagrel/merge/TVGRCounter.h>
 #include <vagrel/merge/TVGRData.h>
 #include <vagrel/platform/Encoding.h>
 
@@ -35,6 +36,10 @@ int main(int argc, char** argv) {
         label.LoadFromFile(FromUtf8(argv[1]));
         Connect(label.GetData(), FromUtf8(argv[2]));
         label.CheckPrintData(); // opens the source and counts
+        // A counter wants a label for each of its values; here the records alone decide how many there are.
+        for (int i = 1; i <= label.CounterCount(); ++i)
+            label.GetCounter(i)->SetNumTo(label.GetData().GetNumlabels());
+        label.CheckPrintData();
         const TVGRBasePrintInfo& info = label.GetPrintInfo();
         std::cout << info.GetLabelsToPrint() << " labels on " << info.GetPagesToPrint() << " sheets\n";
         label.ExportDoc(exPDF, FromUtf8(argv[3]), 0, 1, 90, false, false, false);

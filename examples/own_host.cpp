@@ -16,33 +16,31 @@
 #include <vagrel/platform/Files.h>
 
 #include <cmath>
-#include <iostream>
 #include <numbers>
 
 using namespace vagrel;
 
 namespace {
 
-constexpr double CellWidth = 1000, CellHeight = 2000; // base units: 1 mm × 2 mm
+constexpr std::int32_t CellWidth = 1000, CellHeight = 2000; // base units: 1 mm × 2 mm
 
-// What items are painted on. The context of a host may hold whatever its painter needs.
+// What items are painted on: a context holds whatever the host's painters need.
 struct Screen : TVGRBaseDraw {
-    std::vector<std::string> rows;
+    mutable std::vector<std::string> rows; // items get a context that they only read
 
     void Put(double x, double y, char character) const {
-        const auto column = std::size_t(x / CellWidth), row = std::size_t(y / CellHeight);
+        const auto column = std::size_t(x) / CellWidth, row = std::size_t(y) / CellHeight;
         if (row < rows.size() && column < rows[row].size())
-            const_cast<std::string&>(rows[row])[column] = character; // items get a context that they only read
+            rows[row][column] = character;
     }
     void Line(TKSLPto from, TKSLPto to, char character) const {
         const double dx = double(to.bX - from.bX), dy = double(to.bY - from.bY);
-        const double steps = std::max({1.0, std::abs(dx) / CellWidth, std::abs(dy) / CellHeight});
+        const double steps = 1 + std::max(std::abs(dx) / CellWidth, std::abs(dy) / CellHeight);
         for (double i = 0; i <= steps; ++i)
             Put(double(from.bX) + dx * i / steps, double(from.bY) + dy * i / steps, character);
     }
 };
 
-// One function a family.
 void Paint(const TVGRBaseLine& line, const Screen& screen) { screen.Line(line.GetPoint(1), line.GetPoint(2), '.'); }
 
 void Paint(const TVGRBaseRectangle& box, const Screen& screen) {
@@ -51,8 +49,6 @@ void Paint(const TVGRBaseRectangle& box, const Screen& screen) {
         screen.Line({a.bX, y}, {b.bX, y}, '-');
     for (const std::int64_t x : {a.bX, b.bX})
         screen.Line({x, a.bY}, {x, b.bY}, '|');
-    for (const TKSLPto& corner : {a, b, TKSLPto{a.bX, b.bY}, TKSLPto{b.bX, a.bY}})
-        screen.Line(corner, corner, '+');
 }
 
 void Paint(const TVGRBaseCircle& circle, const Screen& screen) {
@@ -63,10 +59,8 @@ void Paint(const TVGRBaseCircle& circle, const Screen& screen) {
 }
 
 void Paint(const TVGRBaseText& text, const Screen& screen) {
-    const TKSLRect& place = text.BoundsRect();
-    double x = double(place.Left);
-    for (const char16_t letter : text.GetDText())
-        screen.Put(x, double(place.Top), letter < 128 ? char(letter) : '?'), x += CellWidth;
+    for (double x = double(text.BoundsRect().Left); const char16_t letter : text.GetDText())
+        screen.Put(x, double(text.BoundsRect().Top), letter < 128 ? char(letter) : '?'), x += CellWidth;
 }
 
 // Makes any family an item of this host.
@@ -82,8 +76,8 @@ struct OwnText : Own<TVGRBaseText> {
     using Own::Own;
     void CalcValues(int kind) override {
         Own::CalcValues(kind);
-        const auto height = std::int32_t(CellHeight), ascent = height * 4 / 5;
-        StoreMeasure({std::int32_t(GetDText().size() * CellWidth), height, ascent, height - ascent, 0, 1});
+        const auto cells = std::int32_t(GetDText().size());
+        StoreMeasure({cells * CellWidth, CellHeight, CellHeight * 4 / 5, CellHeight / 5, 0, 1});
     }
 };
 
@@ -94,13 +88,13 @@ public:
 
     std::string Picture() const {
         Screen screen;
-        screen.rows.assign(std::size_t(double(GetMeasure().GetSize(mtLabelHeight, true)) / CellHeight),
-                           std::string(std::size_t(double(GetMeasure().GetSize(mtLabelWidth, true)) / CellWidth), ' '));
+        screen.rows.assign(std::size_t(GetMeasure().GetSize(mtLabelHeight, true) / CellHeight),
+                           std::string(std::size_t(GetMeasure().GetSize(mtLabelWidth, true) / CellWidth), ' '));
         for (int i = 1; i <= ItemsCount(); ++i)
             GetItem(i)->DrawElement(screen);
         std::string picture;
         for (const std::string& row : screen.rows)
-            picture += row.substr(0, row.find_last_not_of(' ') + 1) + '\n';
+            picture += row + '\n';
         return picture;
     }
 
@@ -114,14 +108,12 @@ public:
         item.AssignPoints(points);
         return item;
     }
-    Item& CreateLine(TLength x1, TLength y1, TLength x2, TLength y2) override {
-        return Make(itLine, {{x1, y1}, {x2, y2}});
+    Item& CreateLine(TLength x, TLength y, TLength u, TLength v) override { return Make(itLine, {{x, y}, {u, v}}); }
+    Item& CreateRectangle(TLength x, TLength y, TLength w, TLength h) override {
+        return Make(itRectangle, {{x, y}, {x + w, y + h}});
     }
-    Item& CreateRectangle(TLength x, TLength y, TLength width, TLength height) override {
-        return Make(itRectangle, {{x, y}, {x + width, y + height}});
-    }
-    Item& CreateCircle(TKSLPto center, TLength radius) override {
-        return Make(itCircle, {{center.bX - radius, center.bY - radius}, {center.bX + radius, center.bY + radius}});
+    Item& CreateCircle(TKSLPto c, TLength r) override {
+        return Make(itCircle, {{c.bX - r, c.bY - r}, {c.bX + r, c.bY + r}});
     }
     Item& CreateText(TLength x, TLength y) override { return Make(itText, {{x, y}}); }
 
@@ -138,27 +130,20 @@ public:
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::cerr << "usage: " << argv[0] << " FILE.txt\n";
+    if (argc != 2)
         return 2;
-    }
     TextLabel label;
     label.GetMeasure().SetLabelSizeMM(64, 40);
     label.CreateRectangle(1000, 1000, 61000, 37000);
     TVGRBaseItem& circle = label.CreateCircle({48000, 20000}, 12000);
     label.CreateLine(4000, 34000, 34000, 26000);
-    {
-        const UpdateScope measuring(label);
-        auto& text = dynamic_cast<TVGRBaseText&>(label.CreateText(48000, 20000));
-        text.SetHorzAlign(haCenter);
-        text.SetVertAlign(vaCenter);
-        text.SetText(u"A host of my own");
-    }
+    auto& text = dynamic_cast<TVGRBaseText&>(label.CreateText(48000, 20000));
+    label.BeginUpdate(true);
+    text.SetHorzAlign(haCenter);
+    text.SetVertAlign(vaCenter);
+    text.SetText(u"A host of my own");
+    label.EndUpdate(); // measures
     label.DeleteItem(circle, true);
     label.Undo(); // made anew, by CreateElementFromStream
-    const std::string picture = label.Picture();
-    std::cout << picture;
-    WriteFile(argv[1], picture);
-    if (picture.find("A host of my own") == std::string::npos || picture.find('o') == std::string::npos)
-        return 1;
+    WriteFile(argv[1], label.Picture());
 }
