@@ -11,7 +11,8 @@
 using namespace vagrel;
 
 extern "C" int LLVMFuzzerTestOneInput(const char* data, std::size_t size) {
-    static const auto folder = std::filesystem::temp_directory_path();
+    static const std::filesystem::path memory = "/dev/shm";
+    static const auto folder = exists(memory) ? memory : std::filesystem::temp_directory_path();
     static const std::string file = (folder / ("vagrel-fuzz-" + std::to_string(getpid()) + ".lng")).string();
     const auto written = [] {
         TVGRMsg::LoadResources(std::filesystem::path(file).u16string());
