@@ -78,6 +78,7 @@ int Run(int argc, char** argv) {
     AddRender(app);
     AddInfo(app);
     AddConvert(app);
+    AddPlay(app);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& success) {
