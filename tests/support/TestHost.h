@@ -30,7 +30,11 @@ public:
     explicit RecordingObserver(TKSDestUpdate dest) : fDest(dest) {}
 
     TKSDestUpdate GetDest() const override { return fDest; }
-    void Update(TKSChange change, const TKSChangeValue& value) override { told.push_back({change, value}); }
+    void Update(TKSChange change, const TKSChangeValue& value) override {
+        told.push_back({change, value});
+        if (onUpdate)
+            onUpdate(change);
+    }
 
     /// The changes alone, and forgets them.
     std::vector<TKSChange> Take() {
@@ -42,12 +46,13 @@ public:
     }
 
     std::vector<TTold> told;
+    std::function<void(TKSChange)> onUpdate;
 
 private:
     TKSDestUpdate fDest;
 };
 
-/// A document of the given mode, unit and scale.
+/// A document of the given mode, unit and scale, with texts of fixed size.
 class TestHost : public HostLabel {
 public:
     explicit TestHost(TKSLEditorMode mode = emLabelling, TKSLUnits units = unMM, std::int64_t scale = 1);

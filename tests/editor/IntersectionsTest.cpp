@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+// The worker that finds crossings, and what becomes of them while the document changes.
+#include <tests/editor/EditorFixture.h>
+
+#include <vagrel/editor/AllCrossings.h>
+#include <vagrel/platform/MainThreadQueue.h>
+
+#include <random>
+
+namespace vagrel::test {
+namespace {
+
+class Intersections : public Editor {
+protected:
+    /// Pumps until the worker has reported.
+    void Settle() {
+        while (label.GetComputActive())
+            MainThread().WaitAndPump(std::chrono::milliseconds(10));
+    }
+    void Compute() {
+        label.CheckIntersetions();
+        Settle();
+    }
+    std::vector<TKSLPto> Places() const {
+        std::vector<TKSLPto> places;
+        for (const TIntSecPoint& crossing : label.GetIntersections())
+            places.push_back(crossing.fPoint);
+        return places;
+    }
+    bool Snap(TKSLPto at, bool excludeSelected = false) {
+        return label.SearchPoint(at.bX, at.bY, 100, snCross, ref, excludeSelected);
+    }
+
+    TVGRBaseItem& across = label.CreateLine(5000, 10000, 30000, 10000);
+    TVGRBaseItem& down = label.CreateLine(10000, 5000, 10000, 20000);
+    TVGRBaseItem& circle = label.CreateCircle({20000, 10000}, 3000);
+    TKSLRef ref;
+};
+
+TEST_F(Intersections, RisingPairsOfVisibleItems) {
+    EXPECT_EQ(Places(), TKSLPtoA{});
+    Compute();
+    EXPECT_EQ(label.GetIntersections(),
+              (std::vector<TIntSecPoint>{{{10000, 10000}, 1, 2}, {{17000, 10000}, 1, 3}, {{23000, 10000}, 1, 3}}));
+    circle.SetOptions({lopSelectable});
+    Compute();
+    EXPECT_EQ(Places(), (TKSLPtoA{{10000, 10000}}));
+    down.SetOptions({});
+    Compute();
+    EXPECT_EQ(Places(), TKSLPtoA{}) << "one visible item is left";
+}
+
+TEST_F(Intersections, SnapToTheLastOneNearby) {
+    Compute();
+    label.CreateLine(9950, 5000, 9950, 20000);
+    Compute();
+    EXPECT_TRUE(Snap({10000, 10000}));
+    EXPECT_EQ(ref.bX, 9950) << "searched from the end";
+    EXPECT_EQ(ref.fType, rtyRect);
+    EXPECT_TRUE(Snap({17100, 9900}));
+    EXPECT_FALSE(Snap({17101, 10000}));
+    Select({&circle});
+    EXPECT_FALSE(Snap({17000, 10000}, true));
+    EXPECT_TRUE(Snap({10000, 10000}, true));
+}
+
+TEST_F(Intersections, DeletedItemsTakeTheirsAlongAtOnce) {
+    Compute();
+    label.FreeItem(circle);
+    EXPECT_FALSE(Snap({17000, 10000}));
+    EXPECT_EQ(Places(), (TKSLPtoA{{10000, 10000}}));
+    // Deleted while a computation with it runs.
+    label.CheckIntersetions();
+    label.FreeItem(down);
+    Settle();
+    EXPECT_EQ(Places(), TKSLPtoA{});
+    label.CreateLine(20000, 5000, 20000, 20000);
+    Compute();
+    label.Clear({cleItems}, false);
+    EXPECT_EQ(Places(), TKSLPtoA{});
+}
+
+TEST_F(Intersections, ARequestDuringAComputationIsDropped) {
+    label.CheckIntersetions();
+    EXPECT_TRUE(label.GetComputActive());
+    label.CreateLine(12000, 5000, 12000, 20000);
+    label.CheckIntersetions();
+    Settle();
+    EXPECT_EQ(Places().size(), 3u) << "without the new line";
+    Compute();
+    EXPECT_EQ(Places().size(), 4u);
+}
+
+TEST_F(Intersections, ADocumentThatIsClearedDoesNotGetTheOldOnes) {
+    label.CheckIntersetions();
+    label.New();
+    EXPECT_FALSE(label.GetComputActive());
+    label.CreateLine(0, 0, 10000, 10000);
+    label.CreateLine(0, 10000, 10000, 0);
+    Compute();
+    MainThread().Pump(); // the report of the computation that was given up
+    EXPECT_EQ(label.GetIntersections(), (std::vector<TIntSecPoint>{{{5000, 5000}, 1, 2}}));
+}
+
+// Lines all over the page.
+void Scatter(TVGRBaseLabel& label, int count) {
+    std::mt19937 random(7);
+    std::uniform_int_distribution<std::int64_t> x(0, 60000), y(0, 35000);
+    for (int i = 0; i < count; ++i) {
+        const std::int64_t x1 = x(random), y1 = y(random), x2 = x(random), y2 = y(random);
+        label.CreateLine(x1, y1, x2, y2);
+    }
+}
+
+TEST_F(Intersections, ADocumentMayDieWhileTheyAreComputed) {
+    for (int i = 0; i < 5; ++i) {
+        TestHost dying;
+        Scatter(dying, 1500);
+        dying.CheckIntersetions();
+    }
+    MainThread().Pump();
+}
+
+TEST_F(Intersections, TheMainThreadEditsMeanwhile) {
+    Scatter(label, 300);
+    for (int round = 0; round < 40; ++round) {
+        label.CheckIntersetions();
+        TVGRBaseItem& item = *label.GetItem(4 + round);
+        Select({&item});
+        label.MoveBaseSelection(round % 2 ? 100 : -100, 50, false, true);
+        Snap({30000, 15000});
+        if (round % 4 == 0)
+            label.FreeItem(item);
+        MainThread().Pump();
+    }
+    Settle();
+    Compute();
+    // What was published belongs to the items as they stand.
+    std::vector<TIntSecPoint> expected;
+    for (int i = 1; i <= label.ItemsCount(); ++i)
+        for (int j = i + 1; j <= label.ItemsCount(); ++j)
+            label.GetItem(i)->IntersectsWith(*label.GetItem(j), expected);
+    EXPECT_EQ(label.GetIntersections(), expected);
+    EXPECT_GT(expected.size(), 1000u);
+}
+
+TEST(AllCrossings, StopsWhenItIsTold) {
+    std::vector<TFigure> figures(2);
+    for (std::int32_t i = 0; i < 2; ++i)
+        figures[std::size_t(i)] = {i, TKSLShape::Segments({{0, i * 10}, {10, 10 - i * 10}}, false)};
+    std::vector<TIntSecPoint> found;
+    std::atomic<bool> stop = false;
+    EXPECT_TRUE(AllCrossings(figures, stop, found));
+    EXPECT_EQ(found, (std::vector<TIntSecPoint>{{{5, 5}, 0, 1}}));
+    stop = true;
+    EXPECT_FALSE(AllCrossings(figures, stop, found));
+}
+
+} // namespace
+} // namespace vagrel::test
