@@ -156,6 +156,7 @@ void Session::Play(std::string_view text) {
 }
 
 void Session::PlayLine(std::string_view line) {
+    fChange.clear(); // what happened outside
     TJsonObject json;
     json.ParseUtf8(line);
     const TSessionRow& row = Find(json);
