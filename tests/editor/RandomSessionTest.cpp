@@ -159,7 +159,8 @@ private:
             {stSizeRectE, mtE},           {stSizeRectSE, mtSE},       {stRadio, mtRadio}};
         const TKSSelectionValue handle = label.GetSelPoint(1 + Below(label.SelPointCount()));
         const auto drag = drags.find(handle.SelType);
-        if (drag == drags.end())
+        // The radius of a sector is recorded by the drag alone: its way back has no way forth.
+        if (drag == drags.end() || (handle.SelType == stRadio && handle.Item->GetItemType() == itSector))
             return;
         Play(R"({"op":"SetMove","type":")" + std::string(EnumName(drag->second)) + R"(","pos":)" +
              std::to_string(handle.Pos) + "}");
