@@ -12,6 +12,9 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <set>
+
 namespace vagrel::test {
 namespace {
 
@@ -24,6 +27,16 @@ struct Drawing : TestHost {
 };
 
 std::string Form(const TVGRBaseItem& item) { return item.WriteJson()->ToUtf8JSON(false); }
+
+std::map<std::string, std::string> MembersOf(const TJsonObject& json) {
+    std::map<std::string, std::string> members;
+    for (auto [name, value] : json) {
+        TJsonObject alone;
+        alone.SetValue(u"value", value.Clone());
+        members[ToUtf8(name)] = alone.ToUtf8JSON();
+    }
+    return members;
+}
 
 class EveryItem : public testing::TestWithParam<TKSLItemType> {
 protected:
@@ -130,9 +143,55 @@ TEST_P(EveryItem, TurnsRoundInFourSteps) {
     EXPECT_EQ(item->BoundsRect(), bounds);
 }
 
+TEST_P(EveryItem, UndoesAndRedoesEverySetter) {
+    std::set<std::string> unrecorded;
+    for (const TSetter& set : SettersOf(*item)) {
+        label.Clear({cleUndoRedo}, false);
+        const auto before = item->WriteJson();
+        set();
+        const auto after = item->WriteJson();
+        if (label.IsUndoEmpty()) {
+            const auto from = MembersOf(*before);
+            for (const auto& [name, value] : MembersOf(*after))
+                if (from.at(name) != value)
+                    unrecorded.insert(name);
+            continue;
+        }
+        for (int i = 0; i < 2; ++i) {
+            EXPECT_EQ(UndoAll(label), 1);
+            EXPECT_EQ(Form(*item), before->ToUtf8JSON(false));
+            EXPECT_EQ(RedoAll(label), 1);
+            EXPECT_EQ(Form(*item), after->ToUtf8JSON(false));
+        }
+    }
+    std::string keys;
+    const auto form = item->WriteJson();
+    for (const auto& member : *form)
+        if (unrecorded.contains(ToUtf8(member.Name)))
+            keys += ToUtf8(member.Name) + ' ';
+    EXPECT_EQ(keys, sample->unrecorded);
+}
+
+TEST_P(EveryItem, ComesBackFromDeletion) {
+    SetEverything(*item);
+    label.Clear({cleUndoRedo}, false);
+    const std::string form = Form(*item);
+    label.DeleteItem(*item, false);
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(label.ItemsCount(), 0);
+        EXPECT_EQ(UndoAll(label), 1);
+        ASSERT_EQ(label.ItemsCount(), 1);
+        EXPECT_EQ(Form(*label.GetItem(1)), form);
+        EXPECT_EQ(RedoAll(label), 1);
+    }
+}
+
 TEST_P(EveryItem, PreviewCopiesAreNoItems) {
     const std::string form = label.GetJson()->ToUtf8JSON(false), svg = label.SVG(svCurrentUnit, 1, true);
-    const TVGRBaseItem& copy = sample->preview(label);
+    label.Clear({cleUndoRedo}, false);
+    TVGRBaseItem& copy = sample->preview(label);
+    copy.SetColor(0x12345678);
+    EXPECT_TRUE(label.IsUndoEmpty());
     EXPECT_EQ(copy.GetItemType(), sample->type);
     EXPECT_TRUE(copy.FromPreview());
     EXPECT_EQ(label.Preview().size(), 1u);

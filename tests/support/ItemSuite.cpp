@@ -59,17 +59,9 @@ const TItemSample Samples[] = {
      {},
      "Filled FillColor LineType StartAngle SweepAngle ",
      17,
-     Preview<TVGRBaseSector>},
+     Preview<TVGRBaseSector>,
+     "ID Angle Options Points StartAngle SweepAngle "},
 };
-
-// Sets a property of a capability and reads it back; nothing for an item without the capability.
-template <class I, class T, class Value>
-void Put(TVGRBaseItem& item, T (I::*get)() const, void (I::*set)(T), Value value) {
-    if (I* capability = Query<I>(&item)) {
-        (capability->*set)(T(value));
-        EXPECT_EQ((capability->*get)(), T(value));
-    }
-}
 
 } // namespace
 
@@ -85,17 +77,33 @@ TVGRBaseItem& MakeSample(TVGRBaseLabel& label, const TItemSample& sample) {
 }
 
 void SetEverything(TVGRBaseItem& item) {
-    item.SetID(u"My Item ñ 1");
-    item.SetOptions({lopVisible, lopExport});
+    for (const TSetter& set : SettersOf(item))
+        set();
+}
+
+std::vector<TSetter> SettersOf(TVGRBaseItem& item) {
+    std::vector<TSetter> all;
+    // Sets a property of a capability and reads it back; nothing for an item without the capability.
+    auto Put = [&all]<class I, class T, class Value>(TVGRBaseItem& of, T (I::*get)() const, void (I::*set)(T),
+                                                     Value value) {
+        if (I* capability = Query<I>(&of))
+            all.push_back([=] {
+                (capability->*set)(T(value));
+                EXPECT_EQ((capability->*get)(), T(value));
+            });
+    };
+    all.push_back([&item] { item.SetID(u"My Item ñ 1"); });
+    all.push_back([&item] { item.SetOptions({lopVisible, lopExport}); });
     Put(item, &IKSLStroke::GetColor, &IKSLStroke::SetColor, 0x80102030u);
     Put(item, &IKSLStroke::GetPenWidth, &IKSLStroke::SetPenWidth, 0.35f);
     Put(item, &IKSLStyle::GetLineType, &IKSLStyle::SetLineType, ii42);
     Put(item, &IKSLBack::GetBackColor, &IKSLBack::SetBackColor, 0x40A0B0C0u);
     Put(item, &IKSLBack::GetFilled, &IKSLBack::SetFilled, false);
+    // Alike, so that a circle stays round: undo knows one radius.
     Put(item, &IKSLSize::BaseWidth, &IKSLSize::SetBaseWidth, 90000);
-    Put(item, &IKSLSize::BaseHeight, &IKSLSize::SetBaseHeight, 70000);
+    Put(item, &IKSLSize::BaseHeight, &IKSLSize::SetBaseHeight, 90000);
     Put(item, &IKSLSize::GetWidth, &IKSLSize::SetWidth, 8.5f);
-    Put(item, &IKSLSize::GetHeight, &IKSLSize::SetHeight, 6.5f);
+    Put(item, &IKSLSize::GetHeight, &IKSLSize::SetHeight, 8.5f);
     Put(item, &IKSLWidthHeight::GetWidth, &IKSLWidthHeight::SetWidth, 9.5f);
     Put(item, &IKSLWidthHeight::GetHeight, &IKSLWidthHeight::SetHeight, 7.5f);
     Put(item, &IKSLRadio::GetBaseRadio, &IKSLRadio::SetBaseRadio, 12340);
@@ -111,9 +119,10 @@ void SetEverything(TVGRBaseItem& item) {
     Put(item, &IKSLSTerm::BaseSizeTo, &IKSLSTerm::SetBaseSizeTo, 49000);
     Put(item, &IKSLSTerm::GetSizeTo, &IKSLSTerm::SetSizeTo, 7.5f);
     if (auto* sector = dynamic_cast<TVGRBaseSector*>(&item)) {
-        sector->SetStartAngle(-30.5f);
-        sector->SetSweepAngle(200.25f);
+        all.push_back([=] { sector->SetStartAngle(-30.5f); });
+        all.push_back([=] { sector->SetSweepAngle(200.25f); });
     }
+    return all;
 }
 
 bool IsWellFormed(const std::string& svg) {

@@ -5,6 +5,7 @@
 #include <tests/support/TestHost.h>
 #include <vagrel/document/TVGRBaseItem.h>
 
+#include <functional>
 #include <optional>
 
 namespace vagrel::test {
@@ -22,6 +23,8 @@ struct TItemSample {
     std::size_t bytes;
     /// Makes a preview copy, without points.
     TVGRBaseItem& (*preview)(TVGRBaseLabel&);
+    /// The JSON keys that a setter changes without a command.
+    std::string_view unrecorded = "ID Options ";
 };
 
 /// Null for a type without a sample.
@@ -30,7 +33,12 @@ const TItemSample* SampleOf(TKSLItemType type);
 /// The sample's item on the active layer.
 TVGRBaseItem& MakeSample(TVGRBaseLabel& label, const TItemSample& sample);
 
-/// Sets every property of every capability that the item answers to, and expects to read it back.
+using TSetter = std::function<void()>;
+
+/// One for every property of every capability that the item answers to. Each expects to read back what it sets.
+std::vector<TSetter> SettersOf(TVGRBaseItem& item);
+
+/// Calls all of them.
 void SetEverything(TVGRBaseItem& item);
 
 /// Whether a document holds nothing but closed elements with quoted attributes.

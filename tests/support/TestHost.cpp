@@ -14,4 +14,18 @@ TestHost::TestHost(TKSLEditorMode mode, TKSLUnits units, std::int64_t scale) {
 
 std::u16string JsonOf(const TVGRBaseLabel& label) { return label.GetJsonString(false); }
 
+int UndoAll(TVGRBaseLabel& label) {
+    int steps = 0;
+    for (; !label.IsUndoEmpty(); ++steps)
+        label.Undo();
+    return steps;
+}
+
+int RedoAll(TVGRBaseLabel& label) {
+    int steps = 0;
+    for (; !label.IsRedoEmpty(); ++steps)
+        label.Redo();
+    return steps;
+}
+
 } // namespace vagrel::test

@@ -63,4 +63,8 @@ public:
 /// The document as indented JSON.
 std::u16string JsonOf(const TVGRBaseLabel& label);
 
+/// Until there is nothing left; the number of steps.
+int UndoAll(TVGRBaseLabel& label);
+int RedoAll(TVGRBaseLabel& label);
+
 } // namespace vagrel::test
