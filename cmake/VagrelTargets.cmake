@@ -46,7 +46,7 @@ function(vagrel_library name)
 endfunction()
 
 # What the engine stands on.
-set(VAGREL_LEAVES vagrel::foundation vagrel::platform vagrel::messages vagrel::persistence vagrel::svgtext)
+set(VAGREL_LEAVES vagrel::foundation vagrel::platform vagrel::messages vagrel::persistence vagrel::svgtext vagrel::barcode)
 
 # vagrel_part(NAME SOURCES ...): a folder of the engine; its objects are gathered into vagrel::engine.
 function(vagrel_part name)

@@ -2,19 +2,21 @@
 // Makes any family of items concrete.
 #pragma once
 
-#include <vagrel/foundation/Exceptions.h>
-#include <vagrel/foundation/TVGRBaseDraw.h>
+#include <host/CairoDraw.h>
+#include <host/Paint.h>
 
 namespace vagrel {
 
-/// An item of this host. Painting is not available yet; the SVG of an item is its picture.
+/// An item of this host. It is painted on a CairoDraw, on screen as on paper.
 template <class Family>
-class HostItem final : public Family {
+class HostItem : public Family {
 public:
     using Family::Family;
 
-    void DrawItem(const TVGRBaseDraw&) override { throw ENotAvailable(u"Painting is not available yet"); }
-    void PrintItem(const TVGRBaseDraw&) override { throw ENotAvailable(u"Painting is not available yet"); }
+    void DrawItem(const TVGRBaseDraw& draw) override {
+        Paint(static_cast<const Family&>(*this), static_cast<const CairoDraw&>(draw));
+    }
+    void PrintItem(const TVGRBaseDraw& draw) override { DrawItem(draw); }
 };
 
 } // namespace vagrel

@@ -3,6 +3,7 @@
 #include <host/HostLabel.h>
 
 #include <host/ItemRegistry.h>
+#include <host/PangoText.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRBasePrintInfo.h>
 #include <vagrel/foundation/Exceptions.h>
@@ -70,7 +71,11 @@ void CheckNumbers(const TJsonObject& root) {
 
 } // namespace
 
-HostLabel::HostLabel(TComponent* owner) : TVGRBaseLabel(owner) { Loaded(); }
+HostLabel::HostLabel(TComponent* owner) : HostLabel(owner, PangoText::ThisThread()) {}
+
+HostLabel::HostLabel(TComponent* owner, const TextMeasurer& measurer) : TVGRBaseLabel(owner), fMeasurer(measurer) {
+    Loaded();
+}
 
 HostLabel::~HostLabel() { Teardown(); }
 
@@ -140,7 +145,7 @@ void HostLabel::LoadFromFile(std::u16string_view filename) {
     AtPlace(name, [&] {
         // A file that fails must not cost the document that stands here: another one tries it first. Only a document as
         // it was made spares the double work, since reading that one back restores it.
-        HostLabel other;
+        HostLabel other(nullptr, fMeasurer);
         const std::unique_ptr<TJsonObject> blank = other.GetJson();
         const bool untouched =
             ItemsCount() == 0 && !GetModified() && GetJson()->ToUtf8JSON(true) == blank->ToUtf8JSON(true);
@@ -193,9 +198,5 @@ TVGRBaseItem& HostLabel::ReadItem(std::int32_t version, TBinaryReader& reader, T
 }
 
 void HostLabel::Print() { throw ENotAvailable(u"This host has no printer"); }
-
-void HostLabel::ExportDoc(TKSLExport, std::u16string_view, int, float, int, bool, bool, bool) {
-    throw ENotAvailable(u"The export of pages is not available yet");
-}
 
 } // namespace vagrel

@@ -6,14 +6,25 @@
 
 namespace vagrel {
 
+class CairoDraw;
+class TextMeasurer;
 class TJsonObject;
 
-/// A document without a window: it makes items, reads and writes files. What needs a printer, a clipboard or a painter
-/// throws ENotAvailable.
+/// A document without a window: it makes items, measures their texts, paints them, reads and writes files. What needs a
+/// printer throws ENotAvailable.
 class HostLabel : public TVGRBaseLabel {
 public:
     explicit HostLabel(TComponent* owner = nullptr);
+    /// A document whose texts are measured by `measurer`, which must outlive it.
+    HostLabel(TComponent* owner, const TextMeasurer& measurer);
     ~HostLabel() override;
+
+    const TextMeasurer& Measurer() const { return fMeasurer; }
+    /// Paints the items that are visible and exported, in their order. In the states of preview and export the copies
+    /// of the context's cell stand for the items that are bound to data.
+    void PaintItems(const CairoDraw& draw) const;
+    /// Makes the preview copies anew: one of each item that is bound to data for each cell of the sheet.
+    void MakePreview();
 
     /// Reads a document, JSON or binary by its first character. Throws EVagrel with the file and the place in it; the
     /// document that stood before is untouched then.
@@ -72,6 +83,9 @@ public:
     TVGRBaseItem& CreateElementFromStream(std::string_view snapshot) override;
     void PasteSelection() override;
     void Print() override;
+    /// Writes the sheet `page`, or all of them for 0. A picture has 96 × `scale` dots per inch. `checkData` prepares
+    /// the merge first; without it the merge must stand. `fit` writes the label alone, cut to what stands on it. Throws
+    /// ENotAvailable for XPS and GIF, EOutOfRange for a page that does not exist.
     void ExportDoc(TKSLExport type, std::u16string_view filename, int page, float scale, int quality, bool checkData,
                    bool transparent, bool fit) override;
 
@@ -84,6 +98,8 @@ private:
     TVGRBaseItem& ReadItem(std::int32_t version, TBinaryReader& reader, TKSLReadType type);
     /// An item on the active layer at the given points.
     TVGRBaseItem& Make(TKSLItemType type, const TKSLPtoA& points = {});
+
+    const TextMeasurer& fMeasurer;
 };
 
 } // namespace vagrel

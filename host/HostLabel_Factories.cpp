@@ -4,6 +4,7 @@
 #include <host/HostLabel.h>
 
 #include <host/ItemRegistry.h>
+#include <vagrel/barcode/TVGRBaseBarcode.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Rounding.h>
@@ -22,6 +23,13 @@ TKSLPtoA Around(TKSLPto center, std::int64_t radiusX, std::int64_t radiusY) {
 
 TKSLPtoA Box(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) {
     return {{x, y}, {AddSat(x, width), AddSat(y, height)}};
+}
+
+// A new symbol of a text, which does not wait for the end of a bracket.
+TVGRBaseItem& Coded(TVGRBaseItem& item, std::u16string_view text) {
+    dynamic_cast<TVGRBaseCode&>(item).SetCode(text);
+    item.CalcValues(2);
+    return item;
 }
 
 struct TCircle {
@@ -100,6 +108,24 @@ TVGRBaseItem& HostLabel::CreateEllipse(TKSLPto center, std::int64_t radiusX, std
     return Make(itEllipse, Around(center, radiusX, radiusY));
 }
 
+TVGRBaseItem& HostLabel::CreateBarcode(std::int64_t x, std::int64_t y, std::u16string_view text, TKSLBarType type) {
+    auto& barcode = dynamic_cast<TVGRBaseBarcode&>(Make(itBarcode, {{x, y}}));
+    barcode.SetCodeType(type);
+    return Coded(barcode, text);
+}
+
+TVGRBaseItem& HostLabel::CreatePDF417(std::int64_t x, std::int64_t y, std::u16string_view text) {
+    return Coded(Make(itPDF417, {{x, y}}), text);
+}
+
+TVGRBaseItem& HostLabel::CreateDataMatrix(std::int64_t x, std::int64_t y, std::u16string_view text) {
+    return Coded(Make(itDataMatrix, {{x, y}}), text);
+}
+
+TVGRBaseItem& HostLabel::CreateQRCode(std::int64_t x, std::int64_t y, std::u16string_view text) {
+    return Coded(Make(itQRCode, {{x, y}}), text);
+}
+
 // Families that the registry does not have yet.
 
 TVGRBaseItem& HostLabel::CreateText(std::int64_t x, std::int64_t y) { return Make(itText, {{x, y}}); }
@@ -117,14 +143,6 @@ TVGRBaseItem& HostLabel::CreatePackage(std::int64_t, std::int64_t, std::int64_t,
     return Make(itPackage);
 }
 TVGRBaseItem& HostLabel::CreateLevel(TKSLPto, std::int64_t) { return Make(itLevel); }
-TVGRBaseItem& HostLabel::CreateBarcode(std::int64_t, std::int64_t, std::u16string_view, TKSLBarType) {
-    return Make(itBarcode);
-}
-TVGRBaseItem& HostLabel::CreatePDF417(std::int64_t, std::int64_t, std::u16string_view) { return Make(itPDF417); }
-TVGRBaseItem& HostLabel::CreateDataMatrix(std::int64_t, std::int64_t, std::u16string_view) {
-    return Make(itDataMatrix);
-}
-TVGRBaseItem& HostLabel::CreateQRCode(std::int64_t, std::int64_t, std::u16string_view) { return Make(itQRCode); }
 TVGRBaseItem& HostLabel::CreateImage(std::int64_t, std::int64_t, std::int64_t, std::int64_t, bool,
                                      std::u16string_view) {
     return Make(itImage);

@@ -2,9 +2,14 @@
 // The table from item types to classes.
 #include <host/ItemRegistry.h>
 
-#include <host/HostItem.h>
+#include <host/HostBarcode.h>
+#include <host/HostText.h>
+#include <vagrel/barcode/TVGRBaseDataMatrix.h>
+#include <vagrel/barcode/TVGRBasePDF417.h>
+#include <vagrel/barcode/TVGRBaseQRCode.h>
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRBasePoint.h>
+#include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/items/figures/TVGRBaseBezier.h>
 #include <vagrel/items/figures/TVGRBaseCircle.h>
@@ -21,16 +26,16 @@ namespace vagrel {
 
 namespace {
 
-using TMaker = TVGRBaseItem& (*)(TVGRBaseLabel&, TVGRLayer&, TPointCount);
+using TMaker = TVGRBaseItem& (*)(TVGRBaseLabel&, TVGRLayer&, TPointCount, bool preview);
 
-template <class Family>
-TVGRBaseItem& Fixed(TVGRBaseLabel& label, TVGRLayer& layer, TPointCount) {
-    return *new HostItem<Family>(label, layer, false);
+template <class Item>
+TVGRBaseItem& Fixed(TVGRBaseLabel& label, TVGRLayer& layer, TPointCount, bool preview) {
+    return *new Item(label, layer, preview);
 }
 
-template <class Family>
-TVGRBaseItem& Counted(TVGRBaseLabel& label, TVGRLayer& layer, TPointCount points) {
-    return *new HostItem<Family>(label, layer, points, false);
+template <class Item>
+TVGRBaseItem& Counted(TVGRBaseLabel& label, TVGRLayer& layer, TPointCount points, bool preview) {
+    return *new Item(label, layer, points, preview);
 }
 
 struct TRow {
@@ -39,19 +44,28 @@ struct TRow {
 };
 
 constexpr TRow Rows[] = {
-    {itPoint, Fixed<TVGRBasePoint>},         {itLine, Fixed<TVGRBaseLine>},
-    {itPolyLine, Counted<TVGRBasePolyLine>}, {itRectangle, Fixed<TVGRBaseRectangle>},
-    {itPolygon, Counted<TVGRBasePolygon>},   {itCircle, Fixed<TVGRBaseCircle>},
-    {itEllipse, Fixed<TVGRBaseEllipse>},     {itBezier, Counted<TVGRBaseBezier>},
-    {itSector, Fixed<TVGRBaseSector>},
+    {itPoint, Fixed<HostItem<TVGRBasePoint>>},
+    {itLine, Fixed<HostItem<TVGRBaseLine>>},
+    {itPolyLine, Counted<HostItem<TVGRBasePolyLine>>},
+    {itRectangle, Fixed<HostItem<TVGRBaseRectangle>>},
+    {itPolygon, Counted<HostItem<TVGRBasePolygon>>},
+    {itCircle, Fixed<HostItem<TVGRBaseCircle>>},
+    {itEllipse, Fixed<HostItem<TVGRBaseEllipse>>},
+    {itBezier, Counted<HostItem<TVGRBaseBezier>>},
+    {itSector, Fixed<HostItem<TVGRBaseSector>>},
+    {itText, Fixed<HostText>},
+    {itBarcode, Fixed<HostBarcode>},
+    {itPDF417, Fixed<HostItem<TVGRBasePDF417>>},
+    {itDataMatrix, Fixed<HostItem<TVGRBaseDataMatrix>>},
+    {itQRCode, Fixed<HostItem<TVGRBaseQRCode>>},
 };
 
 } // namespace
 
-TVGRBaseItem& MakeItem(TVGRBaseLabel& label, TVGRLayer& layer, TKSLItemType type, TPointCount points) {
+TVGRBaseItem& MakeItem(TVGRBaseLabel& label, TVGRLayer& layer, TKSLItemType type, TPointCount points, bool preview) {
     const auto row = std::ranges::find(Rows, type, &TRow::type);
     if (row != std::end(Rows))
-        return row->make(label, layer, points);
+        return row->make(label, layer, points, preview);
     if (type <= itUndefined || type > itRichText)
         throw EVagrel(u"Unknown item type " + IntToStr(type));
     throw ENotAvailable(u"Items of type " + IntToStr(type) + u" (" + std::u16string(NameItem(type)) +

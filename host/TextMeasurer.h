@@ -19,6 +19,7 @@ struct TTextSize {
     double width = 0;
     double ascent = 0;
     double descent = 0;
+    double underline = 0; ///< how far the underline lies below the baseline
 };
 
 /// Measures single lines of text.

@@ -18,6 +18,9 @@ void AddNew(CLI::App& app);
 void AddRender(CLI::App& app);
 void AddInfo(CLI::App& app);
 void AddConvert(CLI::App& app);
+void AddBarcode(CLI::App& app);
+void AddMerge(CLI::App& app);
+void AddFields(CLI::App& app);
 
 /// Names of an enumeration for an argument, in the order of its values.
 using TNames = std::vector<std::pair<std::string, int>>;

@@ -72,12 +72,17 @@ int Run(int argc, char** argv) {
                "  vagrel new --mode drawing --units m --scale 50 --size 420x297 -o plan.json\n"
                "  vagrel render plan.json -o plan.svg\n"
                "  vagrel info plan.json --json\n"
+               "  vagrel barcode EAN13 590123412345 --check -o code.svg\n"
+               "  vagrel merge label.json --csv products.csv -o labels.pdf\n"
                "\n"
                "Exit code: 0 done, 1 bad input, 2 wrong use.");
     AddNew(app);
     AddRender(app);
     AddInfo(app);
     AddConvert(app);
+    AddBarcode(app);
+    AddMerge(app);
+    AddFields(app);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& success) {
@@ -86,7 +91,8 @@ int Run(int argc, char** argv) {
         return Fail(2, std::string(error.what()) + " (see vagrel --help)");
     }
     if (app.get_subcommands().empty())
-        return Fail(2, "A command is missing: new, render or info (see vagrel --help)");
+        return Fail(2,
+                    "A command is missing: new, render, merge, fields, info, convert or barcode (see vagrel --help)");
     return 0;
 }
 

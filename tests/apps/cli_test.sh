@@ -68,6 +68,76 @@ run 2 '.vgr' convert plan.json plan.txt
 head -c 100 plan.vgr >short.vgr
 run 1 'short.vgr: unexpected end' info short.vgr
 
+# Barcodes.
+run 0 '' barcode --list
+[ "$(wc -l <out)" -eq 26 ] || fail 'barcode --list does not name 26 kinds'
+cp out kinds
+while read -r kind; do
+    run 0 '' barcode "$kind" 1234567 --module 0.4 --height 3 -o code.svg $(case $kind in EAN13 | EAN8 | UPC*) echo --check ;; esac)
+    grep -qF '<rect' code.svg || fail "$kind: no bars"
+done <kinds
+run 0 '' barcode EAN13 590123412345 --check --json
+grep -qF '"Code": "5901234123457"' out && grep -qF '"CheckDigits": "7"' out || fail "EAN13: $(cat out)"
+grep -qF '<svg' out && fail '--json alone also wrote the picture'
+run 0 '' barcode QR hello --json -o code.svg
+[ "$(grep -cE '^\s*"[01]{21}",?$' out)" -eq 21 ] || fail "QR: no 21 rows: $(cat out)"
+run 0 '' barcode CODE39 A --no-text
+grep -qF '<text' out && fail '--no-text has a text'
+run 1 'EAN13 takes 13 digits, not 12' barcode EAN13 590123412345
+run 1 'EAN8 takes 8 digits at most, not 9' barcode EAN8 123456789 --check
+run 1 'CODE39 does not take "é"' barcode CODE39 café
+run 1 'CODE128AUTO does not take "€"' barcode CODE128AUTO '5 €'
+run 1 'DATAMATRIX does not take "€"' barcode DATAMATRIX '5 €'
+run 1 'QR cannot hold this text' barcode QR "$(printf '%03000d' 0)x"
+run 1 'PDF417 takes the characters' barcode PDF417 'é'
+run 2 'none of EAN13' barcode EAN14 1
+run 2 'TEXT' barcode EAN13
+run 2 'only linear' barcode QR x --check
+run 2 'takes 0.19 mm or more' barcode QR x --module 0.1
+run 1 'png' barcode QR x -o code.gif
+run 0 '' barcode QR x -o code.png
+run 0 '' barcode EAN8 1234567 --check -o code.pdf
+
+# Labels from data.
+run 0 '' new -o label.json
+printf 'Name;Copies\n"A; b";2\nC;0\nD;1\n' >data.csv
+run 1 'nothing named "x"' merge label.json -o m.svg --answer x=1
+run 0 '' merge label.json --csv data.csv -o m.svg
+grep -qF '3 labels on 1 pages' out || fail "merge counts wrongly: $(cat out)"
+run 0 '' merge label.json --csv data.csv --repeat Copies -o m.svg
+grep -qF '3 labels on 1 pages' out || fail "a record without copies was printed: $(cat out)"
+"$vagrel" merge label.json --csv - -o m.pdf <data.csv >out 2>err || fail "no CSV from standard input: $(cat err)"
+run 0 '' merge label.json --csv data.csv --copies 20 --first-cell 7,2 -o m.png --dpi 20
+grep -qF '60 labels on 4 pages' out || fail "pages are counted wrongly: $(cat out)"
+[ -s m-0004.png ] && [ ! -e m-0005.png ] || fail 'not four pictures'
+run 0 '' merge label.json --csv data.csv --copies 20 --pages 2-3 -o n.svg
+[ -s n-0002.svg ] && [ -s n-0003.svg ] && [ ! -e n-0001.svg ] || fail 'not pages 2 and 3'
+run 1 'no range of the 1 pages' merge label.json --csv data.csv --pages 2 -o no.svg
+run 1 '7 rows and 3 columns' merge label.json --csv data.csv --first-cell 8,1 -o no.svg
+run 1 'no field "Copy"' merge label.json --csv data.csv --repeat Copy -o no.svg
+run 1 'none.csv' merge label.json --csv none.csv -o no.svg
+run 1 'extension' merge label.json --csv data.csv -o no.xps
+printf 'Name\n"A\nB\n' >quote.csv
+run 1 'line 2 is not closed' merge label.json --csv quote.csv -o no.svg
+printf 'Name\n' >empty.csv
+run 1 'no records' merge label.json --csv empty.csv -o no.svg
+printf '{"rows":[{"a":1,"n":2},{"a":2,"n":0}],"more":[]}' >data.json
+run 0 '' merge label.json --json data.json --repeat n -o m.svg
+grep -qF '2 labels on 1 pages' out || fail "JSON records are counted wrongly: $(cat out)"
+run 1 'only rows, more' merge label.json --json data.json --source x -o no.svg
+run 2 '--table' merge label.json --sqlite x.db -o no.svg
+run 0 '' fields label.json --csv data.csv
+grep -qF 'Copies (text)' out || fail "fields does not tell the columns: $(cat out)"
+run 2 'missing' fields
+
+# Pictures.
+for format in pdf png jpg bmp; do
+    run 0 '' render plan.json --dpi 30 -o plan.$format
+    [ -s plan.$format ] || fail "no plan.$format"
+done
+run 1 '32767 pixels' render plan.json --dpi 4800 -o no.png
+run 1 'none of svg, pdf' render plan.json -o no.gif
+
 # Bad input; what stands at the target stays.
 echo keep >target
 run 1 'No such file' render none.json -o target

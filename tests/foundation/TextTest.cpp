@@ -12,6 +12,11 @@ TEST(Text, ConvertsBetweenUtf16AndUtf8) {
     const std::u16string text = u"aé€\U0001F600";
     EXPECT_EQ(ToUtf8(text), "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80");
     EXPECT_EQ(FromUtf8(ToUtf8(text)), text);
+    for (std::size_t ascii = 0; ascii < 18; ++ascii) {
+        const std::u16string padded = std::u16string(ascii, u'x') + text + std::u16string(17 - ascii, u'y') + u"é";
+        EXPECT_EQ(FromUtf8(ToUtf8(padded)), padded) << ascii;
+        EXPECT_EQ(FromUtf8(std::string(ascii, 'x') + "\xE2\x82"), std::u16string(ascii, u'x') + u"\uFFFD\uFFFD");
+    }
     EXPECT_EQ(ToUtf8(std::u16string(1, char16_t(0xD800))), "\xEF\xBF\xBD");
     EXPECT_EQ(FromUtf8("\xC0\x80x"), u"\uFFFD\uFFFDx");
     for (const char* bad : {"\xED\xA0\x80", "\xF5\x80\x80\x80", "\xE2\x82", "\x80"})

@@ -73,7 +73,10 @@ TEST_P(EveryItem, SurvivesTheBinaryForm) {
     item->Write(writer);
     const std::string& bytes = writer.Bytes();
     Drawing other;
-    const TVGRBaseItem& copy = other.CreateElementFromStream(bytes);
+    const TVGRBaseItem& copy = [&]() -> TVGRBaseItem& {
+        const UpdateScope measuring(other);
+        return other.CreateElementFromStream(bytes);
+    }();
     EXPECT_EQ(Form(copy), Form(*item));
     EXPECT_EQ(copy.BoundsRect(), item->BoundsRect());
     for (std::size_t size = 0; size < bytes.size(); ++size)
@@ -111,9 +114,9 @@ TEST_P(EveryItem, WritesSvgInEveryMode) {
 
 TEST_P(EveryItem, IsPickedWhereItIs) {
     EXPECT_TRUE(item->Pick(sample->on.bX, sample->on.bY, 300, true));
-    EXPECT_FALSE(item->Pick(sample->on.bX + 300000, sample->on.bY, 300, true));
+    EXPECT_FALSE(item->Pick(sample->on.bX + 600000, sample->on.bY, 300, true));
     EXPECT_FALSE(item->Pick(sample->on.bX, sample->on.bY - 300000, 300, true));
-    const TKSLRect around{50000, 50000, 300000, 300000}, away{500000, 500000, 600000, 600000};
+    const TKSLRect around{50000, 50000, 700000, 300000}, away{800000, 500000, 900000, 600000};
     for (const bool intersects : {false, true}) {
         EXPECT_TRUE(item->SearchRect(around, intersects));
         EXPECT_FALSE(item->SearchRect(away, intersects));
@@ -148,7 +151,10 @@ TEST_P(EveryItem, UndoesAndRedoesEverySetter) {
     for (const TSetter& set : SettersOf(*item)) {
         label.Clear({cleUndoRedo}, false);
         const auto before = item->WriteJson();
-        set();
+        {
+            const UpdateScope measuring(label);
+            set();
+        }
         const auto after = item->WriteJson();
         if (label.IsUndoEmpty()) {
             const auto from = MembersOf(*before);

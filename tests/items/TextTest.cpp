@@ -115,8 +115,12 @@ TEST_F(TextTest, PrefixesTellTheSource) {
     text.SetData(ftField, u"a", u"");
     text.SetText(u"");
     EXPECT_EQ(text.FillType(), ftField) << "an empty text keeps the binding";
+    label.GetData().SetLinkData(false);
+    EXPECT_EQ(text.SymFillName(), u"~a") << "also while no data is linked";
+    label.GetData().SetLinkData(true);
     text.SetText(u"x");
     EXPECT_EQ(text.FillType(), ftNone);
+    EXPECT_FALSE(text.IsBound());
 }
 
 TEST_F(TextTest, WritesSvg) {

@@ -3,6 +3,7 @@
 #include "MergeFixture.h"
 
 #include <vagrel/foundation/Exceptions.h>
+#include <vagrel/persistence/TBinaryWriter.h>
 
 #include <limits>
 
@@ -68,6 +69,29 @@ TEST(TVGRCounter, ContinuesInsideARepeat) {
     EXPECT_EQ(counter.GetValue(), u"A-007!");
     counter.Next();
     EXPECT_EQ(counter.GetValue(), u"A-008!");
+    counter.SetNumTo(Most);
+    counter.SetNumFrom(99'999'999'999'999'997);
+    counter.SetFormat(u"000000000000000000");
+    counter.Reset();
+    EXPECT_EQ(counter.GetValue(), u"A-099999999999999997!") << "more digits than a double has";
+}
+
+TEST(TVGRCounter, ReadsADamagedBlockWithinItsLimits) {
+    TBinaryWriter writer;
+    writer.Write(u"");
+    writer.Write<std::int64_t>(9);
+    writer.Write<std::int64_t>(5);
+    writer.Write<std::int32_t>(0);
+    writer.Write<std::int16_t>(0);
+    for (int i = 0; i < 3; ++i)
+        writer.Write(u"");
+    TBinaryReader reader(writer.Bytes());
+    TestHost label;
+    TVGRCounter& counter = *new TVGRCounter(label);
+    counter.ReadData(3200, reader);
+    counter.MoveTo(4);
+    EXPECT_EQ(counter.GetValue(), u"5");
+    EXPECT_EQ(counter.GetNumLabs(), 1);
 }
 
 TEST(TVGRCounter, IsFoundAndRemovedByName) {

@@ -21,7 +21,7 @@ namespace vagrel::test {
 
 using TTexts = std::vector<std::u16string>;
 
-/// An item bound to data, which tells its fill type only while a merge runs.
+/// An item bound to data, which tells its fill type only while a merge runs, as texts do.
 class BoundItem final : public ProbeItem, public IKSLData {
 public:
     BoundItem(TVGRBaseLabel& label, TKSLFillType type, std::u16string_view name, bool preview = false)

@@ -39,6 +39,11 @@ TEST(TCsvReader, SplitsRecordsAndCells) {
         {"empty quotes", "\"\";x", '"', {{u"", u"x"}}},
         {"a quote inside a cell is data", "5\" pipe;a", '"', {{u"5\" pipe", u"a"}}},
         {"text behind the closing quote", "\"a\"b;c", '"', {{u"ab", u"c"}}},
+        {"marks at all places of a group of bytes",
+         "abcdefg;1234567\n12345678;\"9\n\";abcdefghijk\"\r\nx",
+         '"',
+         {{u"abcdefg", u"1234567"}, {u"12345678", u"9\n", u"abcdefghijk\""}, {u"x"}}},
+        {"a quote behind a separator in quotes", "\"a;\"\"b\";\"c\"d\";e", '"', {{u"a;\"b", u"cd\"", u"e"}}},
         {"other letters", "é;\"ñ;€\"", '"', {{u"é", u"ñ;€"}}},
         {"single quotes", "'a;b';\"c", '\'', {{u"a;b", u"\"c"}}},
         {"no quotes", "\"a;b\"", 0, {{u"\"a", u"b\""}}},
@@ -48,11 +53,13 @@ TEST(TCsvReader, SplitsRecordsAndCells) {
 }
 
 TEST(TCsvReader, TellsWhereAQuoteOpens) {
-    try {
-        TCsvReader("a;b\nc;\"d\ne", ';', '"');
-        FAIL();
-    } catch (const EVagrel& error) {
-        EXPECT_STREQ(error.what(), "The quote that opens in line 2 is not closed");
+    for (const char* text : {"a;b\nc;\"d\ne", "a;b\rc;\"d", "\r\n\"d"}) {
+        try {
+            TCsvReader(text, ';', '"');
+            FAIL();
+        } catch (const EVagrel& error) {
+            EXPECT_STREQ(error.what(), "The quote that opens in line 2 is not closed") << text;
+        }
     }
 }
 

@@ -43,11 +43,13 @@ TEST(TVGRData, SelectsByCaption) {
     data.SetJson(Values);
     data.SetDataSel(u"Rows");
     EXPECT_EQ(data.GetType(), dtyJson);
+    data.SetLinkData(true);
+    data.Reset();
+    EXPECT_EQ(data.DataValue(u"i", u""), u"7") << "also in another case";
     data.SetDataSel(u"none");
     EXPECT_EQ(data.GetType(), dtyNone);
     data.MigrateDataSel(u"later");
     EXPECT_EQ(data.GetType(), dtyDataset);
-    data.SetLinkData(true);
     data.Reset();
     EXPECT_FALSE(data.GetHasData());
     EXPECT_EQ(data.GetNumlabels(), 0);

@@ -4,6 +4,10 @@
 
 #include <host/HostItem.h>
 #include <host/ItemRegistry.h>
+#include <vagrel/barcode/TVGRBaseBarcode.h>
+#include <vagrel/barcode/TVGRBaseDataMatrix.h>
+#include <vagrel/barcode/TVGRBasePDF417.h>
+#include <vagrel/barcode/TVGRBaseQRCode.h>
 #include <vagrel/document/TVGRBasePoint.h>
 #include <vagrel/items/figures/TVGRBaseBezier.h>
 #include <vagrel/items/figures/TVGRBaseCircle.h>
@@ -13,11 +17,13 @@
 #include <vagrel/items/figures/TVGRBaseSector.h>
 #include <vagrel/items/lines/TVGRBaseLine.h>
 #include <vagrel/items/lines/TVGRBasePolyLine.h>
+#include <vagrel/items/text/TVGRBaseText.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <regex>
+#include <sstream>
 
 namespace vagrel::test {
 
@@ -31,6 +37,8 @@ TVGRBaseItem& Preview(TVGRBaseLabel& label) {
 const TKSLPtoA Box{{100000, 100000}, {200000, 180000}};
 const TKSLPtoA Square{{100000, 100000}, {200000, 200000}};
 const TKSLPtoA Zigzag{{100000, 100000}, {150000, 180000}, {200000, 100000}, {250000, 180000}};
+
+constexpr std::u16string_view SampleText = u"<\"";
 
 const TItemSample Samples[] = {
     {itPoint, {{150000, 120000}}, {150000, 120000}, snPoint, "", 0, Preview<TVGRBasePoint>},
@@ -53,6 +61,14 @@ const TItemSample Samples[] = {
      "Filled FillColor LineType FromType SizeFrom FromColor ToType SizeTo ToColor ",
      29,
      Preview<TVGRBaseBezier>},
+    {itText,
+     {{150000, 120000}},
+     {150000, 120000},
+     {},
+     "HorzAlign VertAlign DispWidth ScaleX Font Radio PaddingX PaddingY Filled BackColor Text Data ",
+     43 + (1 + 5) + (1 + SampleText.size()) + 1 + 1,
+     Preview<TVGRBaseText>,
+     "ID Angle Options Points HorzAlign VertAlign ScaleX Font Radio PaddingX PaddingY "},
     {itSector,
      Square,
      {150000, 100000},
@@ -61,6 +77,36 @@ const TItemSample Samples[] = {
      17,
      Preview<TVGRBaseSector>,
      "ID Angle Options Points StartAngle SweepAngle "},
+    {itBarcode,
+     {{150000, 120000}},
+     {150000, 120000},
+     {},
+     "Filled FillColor CodeType CheckType HorzAlign AutoType128 BarWidth BarHeight Distance PaddingX PaddingY Factor "
+     "Code IgnoreParentheses CheckSum ShowNumber Font Data ",
+     61,
+     Preview<TVGRBaseBarcode>},
+    {itPDF417,
+     {{150000, 120000}},
+     {150000, 120000},
+     {},
+     "Filled FillColor CorrecLevel BarWidth BarHeight HorzAlign VertAlign PaddingX PaddingY Factor Truncated Rows Cols "
+     "Code Data ",
+     50,
+     Preview<TVGRBasePDF417>},
+    {itDataMatrix,
+     {{150000, 120000}},
+     {150000, 120000},
+     {},
+     "Filled FillColor DMSize DMShape BarWidth BarHeight HorzAlign VertAlign PaddingX PaddingY Factor Code Data ",
+     46,
+     Preview<TVGRBaseDataMatrix>},
+    {itQRCode,
+     {{150000, 120000}},
+     {150000, 120000},
+     {},
+     "Filled FillColor Encoding BarWidth BarHeight HorzAlign VertAlign PaddingX PaddingY Factor Code Data ",
+     38,
+     Preview<TVGRBaseQRCode>},
 };
 
 } // namespace
@@ -73,10 +119,14 @@ const TItemSample* SampleOf(TKSLItemType type) {
 TVGRBaseItem& MakeSample(TVGRBaseLabel& label, const TItemSample& sample) {
     TVGRBaseItem& item = MakeItem(label, label.ActiveLayer(), sample.type, int(sample.points.size()));
     item.AssignPoints(sample.points);
+    const UpdateScope measuring(label);
+    if (auto* text = Query<IKSLText>(&item))
+        text->SetText(SampleText);
     return item;
 }
 
 void SetEverything(TVGRBaseItem& item) {
+    const UpdateScope measuring(item.KSLab());
     for (const TSetter& set : SettersOf(item))
         set();
 }
@@ -99,11 +149,14 @@ std::vector<TSetter> SettersOf(TVGRBaseItem& item) {
     Put(item, &IKSLStyle::GetLineType, &IKSLStyle::SetLineType, ii42);
     Put(item, &IKSLBack::GetBackColor, &IKSLBack::SetBackColor, 0x40A0B0C0u);
     Put(item, &IKSLBack::GetFilled, &IKSLBack::SetFilled, false);
-    // Alike, so that a circle stays round: undo knows one radius.
-    Put(item, &IKSLSize::BaseWidth, &IKSLSize::SetBaseWidth, 90000);
-    Put(item, &IKSLSize::BaseHeight, &IKSLSize::SetBaseHeight, 90000);
-    Put(item, &IKSLSize::GetWidth, &IKSLSize::SetWidth, 8.5f);
-    Put(item, &IKSLSize::GetHeight, &IKSLSize::SetHeight, 8.5f);
+    // The size of a symbol follows from its text. Else alike, so that a circle stays round: undo knows one radius.
+    const bool sized = !dynamic_cast<TVGRBaseCode*>(&item);
+    if (sized) {
+        Put(item, &IKSLSize::BaseWidth, &IKSLSize::SetBaseWidth, 90000);
+        Put(item, &IKSLSize::BaseHeight, &IKSLSize::SetBaseHeight, 90000);
+        Put(item, &IKSLSize::GetWidth, &IKSLSize::SetWidth, 8.5f);
+        Put(item, &IKSLSize::GetHeight, &IKSLSize::SetHeight, 8.5f);
+    }
     Put(item, &IKSLWidthHeight::GetWidth, &IKSLWidthHeight::SetWidth, 9.5f);
     Put(item, &IKSLWidthHeight::GetHeight, &IKSLWidthHeight::SetHeight, 7.5f);
     Put(item, &IKSLRadio::GetBaseRadio, &IKSLRadio::SetBaseRadio, 12340);
@@ -111,6 +164,16 @@ std::vector<TSetter> SettersOf(TVGRBaseItem& item) {
     Put(item, &IKSLCenter::GetCenterX, &IKSLCenter::SetCenterX, 20.25f);
     Put(item, &IKSLCenter::GetCenterY, &IKSLCenter::SetCenterY, 15.75f);
     Put(item, &IKSLAngle::GetAngle, &IKSLAngle::SetAngle, ag180);
+    Put(item, &IKSLFont::GetFontHeight, &IKSLFont::SetFontHeight, 7.5f);
+    Put(item, &IKSLFont::GetFontColor, &IKSLFont::SetFontColor, 0xFF8040C0u);
+    Put(item, &IKSLFont::GetScaleX, &IKSLFont::SetScaleX, 1.25f);
+    Put(item, &IKSLFont::GetBold, &IKSLFont::SetBold, true);
+    Put(item, &IKSLFont::GetItalic, &IKSLFont::SetItalic, true);
+    Put(item, &IKSLFont::GetUnderline, &IKSLFont::SetUnderline, true);
+    if (auto* font = Query<IKSLFont>(&item)) {
+        all.push_back([font] { font->SetFontName(u"Verdana"); });
+        all.push_back([font] { font->SetStrikeout(true); });
+    }
     Put(item, &IKSLSTerm::GetFromType, &IKSLSTerm::SetFromType, ttFillArrow);
     Put(item, &IKSLSTerm::GetToType, &IKSLSTerm::SetToType, ttCross);
     Put(item, &IKSLSTerm::GetFromColor, &IKSLSTerm::SetFromColor, 0xFF00FF00u);
@@ -118,6 +181,17 @@ std::vector<TSetter> SettersOf(TVGRBaseItem& item) {
     Put(item, &IKSLSTerm::BaseSizeFrom, &IKSLSTerm::SetBaseSizeFrom, 1250);
     Put(item, &IKSLSTerm::BaseSizeTo, &IKSLSTerm::SetBaseSizeTo, 49000);
     Put(item, &IKSLSTerm::GetSizeTo, &IKSLSTerm::SetSizeTo, 7.5f);
+    Put(item, &IKSLPadding::GetPaddingX, &IKSLPadding::SetPaddingX, 0.25f);
+    Put(item, &IKSLPadding::GetPaddingY, &IKSLPadding::SetPaddingY, 0.5f);
+    Put(item, &IKSLBar1D2D::GetBarWidth, &IKSLBar1D2D::SetBarWidth, 0.05f);
+    Put(item, &IKSLBar1D2D::GetBarHeight, &IKSLBar1D2D::SetBarHeight, 1.5f);
+    Put(item, &IKSLBar1D2D::GetFactor, &IKSLBar1D2D::SetFactor, 2.5f);
+    if (auto* align = Query<IKSLAlign>(&item)) {
+        all.push_back([align] { align->SetHorzAlign(haRight); });
+        all.push_back([align] { align->SetVertAlign(vaCenter); });
+    }
+    if (auto* data = Query<IKSLData>(&item))
+        all.push_back([data] { data->SetData(ftField, u"name", u"0.0"); });
     if (auto* sector = dynamic_cast<TVGRBaseSector*>(&item)) {
         all.push_back([=] { sector->SetStartAngle(-30.5f); });
         all.push_back([=] { sector->SetSweepAngle(200.25f); });
@@ -126,8 +200,16 @@ std::vector<TSetter> SettersOf(TVGRBaseItem& item) {
 }
 
 bool IsWellFormed(const std::string& svg) {
-    static const std::regex elements(R"([^]*<svg[^<>]*>\n(<[a-z]+(\s+[\w:-]+="[^"<]*")*\s*/>\s*)*</svg>\n)");
-    return std::regex_match(svg, elements);
+    // One by one: a long document is too much for one expression.
+    static const std::regex element(R"(<([a-z]+)(\s+[\w:-]+="[^"<]*")*\s*(/>|>[^<]*</\1>))");
+    const std::size_t start = svg.find(">\n", svg.find("<svg "));
+    if (start == svg.npos || !svg.ends_with("\n</svg>\n"))
+        return false;
+    std::istringstream lines(svg.substr(start + 2, svg.size() - start - 2 - 7));
+    for (std::string line; std::getline(lines, line);)
+        if (!std::regex_match(line.substr(0, line.find_last_not_of("\r") + 1), element))
+            return false;
+    return true;
 }
 
 void CheckSnaps(std::initializer_list<TSnapRow> rows) {

@@ -6,7 +6,13 @@
 
 namespace vagrel::test {
 
-TestHost::TestHost(TKSLEditorMode mode, TKSLUnits units, std::int64_t scale) {
+namespace {
+
+const FixedTextMeasurer FixedMeasurer;
+
+} // namespace
+
+TestHost::TestHost(TKSLEditorMode mode, TKSLUnits units, std::int64_t scale) : HostLabel(nullptr, FixedMeasurer) {
     SetEditorMode(mode);
     SetUnits(units);
     GetMeasure().SetDrawScale(scale);

@@ -52,7 +52,7 @@ private:
     TKSDestUpdate fDest;
 };
 
-/// A document of the given mode, unit and scale.
+/// A document of the given mode, unit and scale, with texts of fixed size.
 class TestHost : public HostLabel {
 public:
     explicit TestHost(TKSLEditorMode mode = emLabelling, TKSLUnits units = unMM, std::int64_t scale = 1);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The binary blocks of a document and its sub-objects, field by field. A binary file holds what setters once allowed,
-// so everything is stored directly.
+// so everything is stored directly but what arithmetic divides by.
 #include <vagrel/document/TVGRBackSurf.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRBaseLabel.h>
@@ -8,7 +8,7 @@
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/document/TVGRSettings.h>
-#include <vagrel/document/Versions_p.h>
+#include <vagrel/document/Versions.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/items/lines/TVGRDimStyle.h>
 #include <vagrel/merge/TVGRCounter.h>
@@ -107,8 +107,8 @@ void TVGRMeasure::ReadData(std::int32_t version, TBinaryReader& reader) {
     fPaperSize = reader.Read<std::int16_t>();
     fPaperName = reader.ReadString();
     fDrawScale = version >= WideScaleVersion ? reader.Read<std::int64_t>() : reader.Read<std::int32_t>();
-    if (fDrawScale < 1)
-        throw EOutOfRange("damaged draw scale before byte " + std::to_string(reader.Position()));
+    if (fDrawScale < 1 || fNuHor < 1 || fNuVer < 1) // they divide
+        throw EOutOfRange("damaged sheet or draw scale before byte " + std::to_string(reader.Position()));
     fContinousPaper = reader.ReadBool();
     fLabelType = TVagrelType(reader.Read<std::uint8_t>());
     fInnerCircle = reader.Read<std::int32_t>();
@@ -158,7 +158,7 @@ void TVGRBasePrintInfo::WriteData(TBinaryWriter& writer) const {
 }
 
 void TVGRBasePrintInfo::ReadData(std::int32_t, TBinaryReader& reader) {
-    fRepetition = reader.Read<std::int32_t>();
+    SetRepetition(reader.Read<std::int32_t>()); // divides
     fOrient = TKSLPrinterOrientation(reader.Read<std::uint8_t>());
     fCopies = reader.Read<std::int32_t>();
 }

@@ -2,7 +2,8 @@
 // What an item can do beyond being an item: small interfaces, found by query on the item.
 //
 // Lengths called Base are base units; all others are millimetres where the interface is about a pen, a font or a
-// padding, and the document's unit elsewhere.
+// padding, and the document's unit elsewhere. Barcodes have all their lengths in the document's unit, or in millimetres
+// when that is larger than a centimetre.
 #pragma once
 
 #include <vagrel/foundation/Records.h>

@@ -4,7 +4,7 @@
 
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRCmd.h>
-#include <vagrel/document/Versions_p.h>
+#include <vagrel/document/Versions.h>
 #include <vagrel/editor/TAct.h>
 #include <vagrel/foundation/Units.h>
 #include <vagrel/persistence/TBinaryWriter.h>

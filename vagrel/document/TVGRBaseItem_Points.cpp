@@ -121,8 +121,11 @@ TKSLBase TVGRBaseItem::MeanPoint() const {
 }
 
 void TVGRBaseItem::UpdateBounds() {
-    if (fItemType == itText)
+    if (fItemType == itText) {
+        if (fOwner.GetAction() >= eaText && fOwner.GetAction() <= eaMoveText)
+            fOwner.FillSelPoints();
         return;
+    }
     const int first = fItemType == itDim ? 5 : 1;
     if (fPoints.size() == 2 || fItemType == itArrowLine || fItemType == itDim) {
         const TKSLPto a = GetPoint(first), b = GetPoint(first + 1);

@@ -442,7 +442,10 @@ public:
     /// The document as an SVG text in UTF-8.
     /// `portable` sets texts by their baseline, which every renderer places the same; it needs measured texts.
     std::string SVG(TKSLExportSVG type, float factor, bool attrID, bool portable = false) const;
-    /// Writes the same text to a file, whole or not at all. Throws EStreamError.
+    /// The sheet of the page that `GoToPage` went to: the label in every cell that the page uses, with the preview
+    /// copies of the cell for the items that are bound to data.
+    std::string SheetSVG(TKSLExportSVG type, float factor, bool attrID, bool portable = false) const;
+    /// Writes the same text as `SVG` to a file, whole or not at all. Throws EStreamError.
     void SaveSVG(std::u16string_view filename, TKSLExportSVG type, float factor, bool attrID,
                  bool portable = false) const;
 

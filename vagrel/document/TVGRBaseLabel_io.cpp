@@ -9,7 +9,7 @@
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/document/TVGRSettings.h>
-#include <vagrel/document/Versions_p.h>
+#include <vagrel/document/Versions.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/items/lines/TVGRDimStyle.h>

@@ -51,6 +51,27 @@ std::int32_t TVGRBasePrintInfo::FirstPageLabels() const {
     return ToInt32(LabelsPerPage() - (GetFirstRow() - 1) * columns - (GetFirstCol() - 1));
 }
 
+std::vector<TSheetCell> TVGRBasePrintInfo::Cells() const {
+    const TVGRMeasure& measure = fOwner.GetMeasure();
+    const std::int64_t columns = measure.GetNuVer();
+    auto step = [&](TKSLMeasureType label, TKSLMeasureType gap) {
+        return measure.GetSize(label, false) + measure.GetSize(gap, false);
+    };
+    // The first gap lies between rows, as the first count is that of rows.
+    const std::int64_t right = step(mtLabelWidth, mtGapVert), down = step(mtLabelHeight, mtGapHorz);
+    const std::int64_t left = measure.GetSize(mtMarginLeft, false), top = measure.GetSize(mtMarginTop, false);
+    const bool first = fCurrentPage <= 1;
+    std::int64_t index = first ? (GetFirstRow() - 1) * columns + GetFirstCol() - 1 : 0;
+    const std::int64_t labels = std::int64_t(fLabelsToPrint) - fCurrentLabel + 1;
+    const std::int64_t end = std::min<std::int64_t>(LabelsPerPage(), index + labels);
+    std::vector<TSheetCell> cells;
+    for (; index < end; ++index) {
+        const std::int64_t row = index / columns, column = index % columns;
+        cells.push_back({std::int16_t(row + 1), std::int16_t(column + 1), left + column * right, top + row * down});
+    }
+    return cells;
+}
+
 void TVGRBasePrintInfo::SetPrinterIndex(std::int32_t value) {
     if (value == fPrinterIndex)
         return;

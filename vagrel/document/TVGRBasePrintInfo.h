@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vagrel {
 
@@ -15,6 +16,20 @@ class TBinaryReader;
 class TBinaryWriter;
 class TJsonObject;
 class TVGRBaseLabel;
+
+/// A label's place on a sheet: its cell, counted from 1, and its corner in base units on paper.
+struct TSheetCell {
+    std::int16_t row = 1, column = 1;
+    std::int64_t x = 0, y = 0;
+};
+
+/// Where the data stands: the label, the record and its copy.
+struct TDataPlace {
+    std::int64_t label = 0;
+    std::int32_t record = 0, copy = 0;
+
+    bool operator==(const TDataPlace&) const = default;
+};
 
 /// Margins, counts and printer of a print run, and how far it is. The document walks over labels and pages.
 class TVGRBasePrintInfo {
@@ -83,6 +98,9 @@ public:
     /// For a host that makes new preview copies: the page is filled again.
     void SetLastPageFill(std::int32_t value) { fLastPageFill = value; }
 
+    /// The cells that the page `GoToPage` went to uses, in the order in which they are filled.
+    std::vector<TSheetCell> Cells() const;
+
     void Assign(const TVGRBasePrintInfo& source);
 
     void WriteJson(TJsonObject& parent) const;
@@ -103,6 +121,7 @@ protected:
     std::int32_t fPagesToPrint = 0;
     std::int32_t fLabelsToPrint = 0;
     std::int32_t fLastPageFill = -1;
+    TDataPlace fFilledTo;
     bool fFindDetail = false;
     std::int32_t fCurrentPage = 0;
     std::int32_t fCurrentLabel = 0;

@@ -5,7 +5,7 @@
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRCmd_p.h>
-#include <vagrel/document/Versions_p.h>
+#include <vagrel/document/Versions.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/persistence/TBinaryWriter.h>
 

@@ -149,7 +149,7 @@ void Texts(const THandles& to) {
 }
 
 void Text(const THandles& to) {
-    const auto* text = to.item.GetIsData() ? dynamic_cast<const TVGRBaseText*>(&to.item) : nullptr;
+    const auto* text = to.item.IsBound() ? dynamic_cast<const TVGRBaseText*>(&to.item) : nullptr;
     to.AddBox(to.Movable(stRect), text ? text->GetDisplayBoundsRect() : to.item.BoundsRect());
     Anchor(to);
     if (text && to.item.KSLab().GetShowDispWidthHandle()) {

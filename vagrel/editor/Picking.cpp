@@ -42,7 +42,7 @@ void TVGRBaseLabel::Unselect(TVGRBaseItem& item) {
 }
 
 void TVGRBaseLabel::SelectionPicked(TTypes texts) {
-    if (fSelection.size() == 1 && texts.Has(fSelection[0]->GetItemType()) && !fSelection[0]->GetIsData())
+    if (fSelection.size() == 1 && texts.Has(fSelection[0]->GetItemType()) && !fSelection[0]->IsBound())
         EditSelText();
     else
         ChangeValue(chSelect);

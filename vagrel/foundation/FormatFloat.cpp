@@ -9,6 +9,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <optional>
 #include <vector>
 
 namespace vagrel {
@@ -38,6 +39,15 @@ TDecimal ExactDecimal(double magnitude) {
     std::from_chars(mark[1] == '+' ? mark + 2 : mark + 1, end, decimal.point);
     ++decimal.point;
     return decimal;
+}
+
+TDecimal ExactDecimal(std::uint64_t magnitude) {
+    if (magnitude == 0)
+        return {};
+    std::string digits = std::to_string(magnitude);
+    const int point = int(digits.size());
+    DropZeros(digits);
+    return {std::move(digits), point};
 }
 
 // Keeps `count` digits. All digits are known, so the first one that goes decides.
@@ -191,16 +201,13 @@ std::u16string TSection::Write(TDecimal decimal) const {
     return out;
 }
 
-} // namespace
-
-std::u16string FormatFloat(std::u16string_view pattern, double value) {
+// A number with the sign of `sign`. Nothing where the pattern has no section for it.
+std::optional<std::u16string> Format(std::u16string_view pattern, int sign, TDecimal decimal) {
     const std::vector<std::u16string_view> sections = Sections(pattern);
     auto choose = [&](std::size_t index) { return index < sections.size() && !sections[index].empty() ? index : 0; };
-    std::size_t chosen = choose(value < 0 ? 1 : value == 0 ? 2 : 0);
-    if (sections[chosen].empty() || !std::isfinite(value))
-        return FloatToStr(value);
-
-    TDecimal decimal = ExactDecimal(std::fabs(value));
+    std::size_t chosen = choose(sign < 0 ? 1 : sign == 0 ? 2 : 0);
+    if (sections[chosen].empty())
+        return std::nullopt;
     TSection(sections[chosen]).Round(decimal);
     // What rounds to zero is written as zero.
     if (decimal.digits.empty()) {
@@ -208,9 +215,28 @@ std::u16string FormatFloat(std::u16string_view pattern, double value) {
         decimal.point = 0;
     }
     std::u16string text = TSection(sections[chosen]).Write(decimal);
-    if (value < 0 && chosen == 0 && !decimal.digits.empty())
+    if (sign < 0 && chosen == 0 && !decimal.digits.empty())
         text.insert(text.begin(), u'-');
     return text;
+}
+
+} // namespace
+
+std::u16string FormatFloat(std::u16string_view pattern, double value) {
+    if (pattern.empty() || !std::isfinite(value))
+        return FloatToStr(value);
+    const int sign = (value > 0) - (value < 0);
+    auto text = Format(pattern, sign, ExactDecimal(std::fabs(value)));
+    return text ? *std::move(text) : FloatToStr(value);
+}
+
+std::u16string FormatInt(std::u16string_view pattern, std::int64_t value) {
+    if (pattern.empty())
+        return IntToStr(value);
+    const int sign = (value > 0) - (value < 0);
+    const std::uint64_t magnitude = value < 0 ? 0 - std::uint64_t(value) : std::uint64_t(value);
+    auto text = Format(pattern, sign, ExactDecimal(magnitude));
+    return text ? *std::move(text) : IntToStr(value);
 }
 
 namespace {

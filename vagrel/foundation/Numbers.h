@@ -18,6 +18,9 @@ namespace vagrel {
 /// the general form.
 std::u16string FormatFloat(std::u16string_view pattern, double value);
 
+/// A whole number by a pattern, every digit exact; in decimal for an empty pattern.
+std::u16string FormatInt(std::u16string_view pattern, std::int64_t value);
+
 /// Appends `value` with exactly `decimals` decimals (0 to 9), rounded as `FormatFloat` does. The fast road of SVG.
 void AppendFixed(std::string& out, double value, int decimals);
 

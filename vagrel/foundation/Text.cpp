@@ -3,6 +3,9 @@
 #include <vagrel/foundation/Text.h>
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <cstring>
 
 namespace vagrel {
 
@@ -58,6 +61,24 @@ std::int32_t Decode(std::string_view bytes, std::size_t pos, std::size_t& length
     return code;
 }
 
+constexpr std::size_t Group = sizeof(std::uint64_t);
+
+// Four bytes as four units.
+constexpr std::uint64_t Spread(std::uint64_t bytes) {
+    bytes = (bytes | bytes << 16) & 0x0000FFFF0000FFFF;
+    return (bytes | bytes << 8) & 0x00FF00FF00FF00FF;
+}
+
+// Widens a group of bytes; how many of them lead it in ASCII and so are decoded.
+std::size_t WidenGroup(const char* from, char16_t* to) {
+    static_assert(std::endian::native == std::endian::little);
+    std::uint64_t bytes;
+    std::memcpy(&bytes, from, sizeof bytes);
+    const std::uint64_t units[] = {Spread(bytes & 0xFFFFFFFF), Spread(bytes >> 32)};
+    std::memcpy(to, units, sizeof units);
+    return std::size_t(std::countr_zero(bytes & 0x8080808080808080)) / 8;
+}
+
 } // namespace
 
 void AppendUtf8(std::string& out, std::u16string_view text) {
@@ -81,20 +102,33 @@ std::string ToUtf8(std::u16string_view text) {
     return out;
 }
 
-std::u16string FromUtf8(std::string_view bytes) {
-    std::u16string out;
-    out.reserve(bytes.size());
+void AppendUtf16(std::u16string& out, std::string_view bytes) {
+    const std::size_t before = out.size();
+    out.resize(before + bytes.size()); // a text has no more units than bytes
+    char16_t* to = out.data() + before;
     for (std::size_t pos = 0, length = 0; pos < bytes.size(); pos += length) {
+        if (bytes.size() - pos >= Group) {
+            length = WidenGroup(bytes.data() + pos, to);
+            to += length;
+            if (length > 0)
+                continue;
+        }
         const std::int32_t code = Decode(bytes, pos, length);
         if (code < 0) {
-            out += char16_t(Replacement);
+            *to++ = char16_t(Replacement);
         } else if (code < 0x10000) {
-            out += char16_t(code);
+            *to++ = char16_t(code);
         } else {
-            out += char16_t(0xD800 + ((code - 0x10000) >> 10));
-            out += char16_t(0xDC00 + ((code - 0x10000) & 0x3FF));
+            *to++ = char16_t(0xD800 + ((code - 0x10000) >> 10));
+            *to++ = char16_t(0xDC00 + ((code - 0x10000) & 0x3FF));
         }
     }
+    out.resize(std::size_t(to - out.data()));
+}
+
+std::u16string FromUtf8(std::string_view bytes) {
+    std::u16string out;
+    AppendUtf16(out, bytes);
     return out;
 }
 

@@ -18,6 +18,9 @@ void AppendUtf8(std::string& out, std::u16string_view text);
 /// UTF-8 to UTF-16. Every byte that is no part of a well-formed sequence becomes U+FFFD.
 std::u16string FromUtf8(std::string_view bytes);
 
+/// Appends `bytes` to `out` as `FromUtf8` gives them.
+void AppendUtf16(std::u16string& out, std::string_view bytes);
+
 /// True when `bytes` are well-formed UTF-8.
 bool IsUtf8(std::string_view bytes);
 

@@ -9,17 +9,11 @@
 #include <vagrel/persistence/TBinaryWriter.h>
 #include <vagrel/persistence/TJsonObject.h>
 #include <vagrel/svg/TExSVG.h>
+#include <vagrel/svg/TermShape.h>
 
 #include <algorithm>
 
 namespace vagrel {
-
-namespace {
-
-// The wings of an arrow open by π ÷ 8 to either side.
-constexpr int ArrowOpen = 8;
-
-} // namespace
 
 std::int32_t TTerminal::ClampSize(std::int64_t base) {
     return std::int32_t(std::clamp<std::int64_t>(base, 500, 50000));

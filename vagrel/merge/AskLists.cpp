@@ -73,7 +73,7 @@ void TKSValList::AddValue(std::u16string_view value) {
 std::u16string TKSAskField::Text(std::u16string_view format) const {
     switch (fAskType) {
     case atInteger:
-        return format.empty() ? IntToStr(fAnsInt) : FormatFloat(format, fAnsInt);
+        return FormatInt(format, fAnsInt);
     case atNumber:
         return FormatFloat(format, fAnsNumber);
     case atDateTime:

@@ -64,7 +64,7 @@ public:
         const TJsonDataType type = record->GetType(name);
         if (type >= jdtArray || (type == jdtString && !TryStrToInt64(record->GetString(name))))
             return 1;
-        return record->GetInt(name);
+        return ToInt32(record->GetLong(name));
     }
     std::u16string Value(std::u16string_view name, std::u16string_view format) const override {
         return JsonText(Json(), name, format);
@@ -131,7 +131,9 @@ std::u16string DatasetText(const IKSLDataset& dataset, std::u16string_view name,
     const TKSLFieldKind kind = dataset.FieldKind(field);
     if (!format.empty() && kind == fkDateTime)
         return FormatDateTime(format, dataset.AsDateTime(field));
-    if (!format.empty() && (kind == fkInteger || kind == fkFloat))
+    if (!format.empty() && kind == fkInteger)
+        return FormatInt(format, dataset.AsInteger(field));
+    if (!format.empty() && kind == fkFloat)
         return FormatFloat(format, dataset.AsFloat(field));
     return dataset.AsText(field);
 }
@@ -141,6 +143,7 @@ std::u16string JsonText(const TJsonObject* record, std::u16string_view name, std
     switch (type) {
     case jdtInt:
     case jdtLong:
+        return FormatInt(format, record->GetLong(name));
     case jdtULong:
         return format.empty() ? record->GetString(name) : FormatFloat(format, record->GetFloat(name));
     case jdtFloat:

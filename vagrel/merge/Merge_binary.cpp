@@ -21,13 +21,13 @@ void TVGRCounter::WriteData(TBinaryWriter& writer) const {
 
 void TVGRCounter::ReadData(std::int32_t, TBinaryReader& reader) {
     fName = reader.ReadString();
-    fNumFrom = reader.Read<std::int64_t>();
-    fNumTo = reader.Read<std::int64_t>();
-    SetStep(reader.Read<std::int32_t>()); // 0 would divide
-    fRepeat = reader.Read<std::int16_t>();
+    // Within their limits: step and repeat divide, and a range that is turned round has no values.
+    SetNumFrom(reader.Read<std::int64_t>());
+    SetNumTo(reader.Read<std::int64_t>());
+    SetStep(reader.Read<std::int32_t>());
+    SetRepeat(reader.Read<std::int16_t>());
     for (std::u16string* text : {&fFormat, &fBefore, &fAfter})
         *text = reader.ReadString();
-    CalcNumLabs();
 }
 
 void TVGRData::WriteData(TBinaryWriter& writer) const {

@@ -55,6 +55,7 @@ void TVGRBaseLabel::CheckPrintData() {
     info.fCurrentLabel = info.fCurrentPage = info.fPagesToPrint = 1;
     info.fLabelsToPrint = ToInt32(std::int64_t(info.fLabs) * info.fRepetition);
     info.fLastPageFill = -1;
+    info.fFilledTo = {};
     info.fFillType = ftNone;
     ActivateBindings();
     fData->Reset();
@@ -108,11 +109,13 @@ void TVGRBaseLabel::GoToLabel(std::int64_t label) {
     fPrintInfo->fCurrentLabel = ToInt32(label);
 }
 
-// Where each record tells its copies, only a walk finds the record.
+// Where each record tells its copies, only a walk finds the record. The filling of the page before has done it already.
 void TVGRBaseLabel::WalkToLabel(std::int64_t label) {
-    fData->First();
-    for (std::int64_t passed = 1; passed < label; ++passed)
-        NextData();
+    if (fPrintInfo->fFilledTo != TDataPlace{label, fData->GetPos(), fData->GetPosRepeat()}) {
+        fData->First();
+        for (std::int64_t passed = 1; passed < label; ++passed)
+            NextData();
+    }
     fPrintInfo->fCurrentLabel = ToInt32(label);
 }
 
@@ -123,7 +126,8 @@ void TVGRBaseLabel::FillDataPage(std::int32_t page) {
     const std::int32_t rows = fMeasure->GetNuHor(), columns = fMeasure->GetNuVer();
     std::int64_t label = info.fCurrentLabel;
     std::int32_t column = page == 1 ? info.GetFirstCol() : 1;
-    for (std::int32_t row = page == 1 ? info.GetFirstRow() : 1; row <= rows; ++row, column = 1) {
+    for (std::int32_t row = page == 1 ? info.GetFirstRow() : 1; row <= rows && label <= info.fLabelsToPrint;
+         ++row, column = 1) {
         for (; column <= columns && label <= info.fLabelsToPrint; ++column, ++label) {
             for (const auto& copy : fPreview)
                 if (copy->GetRow() == row && copy->GetCol() == column)
@@ -132,6 +136,7 @@ void TVGRBaseLabel::FillDataPage(std::int32_t page) {
         }
     }
     info.fLastPageFill = page;
+    info.fFilledTo = {label, fData->GetPos(), fData->GetPosRepeat()};
 }
 
 } // namespace vagrel

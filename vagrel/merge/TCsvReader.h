@@ -20,19 +20,24 @@ public:
     /// `quote` is 0 for none. Throws EVagrel with the line, counted from 1, of a quote that is not closed.
     TCsvReader(std::string text, char separator, char quote);
 
-    int Count() const { return int(fStarts.size()); }
+    int Count() const { return int(fRecords.size()); }
     /// The cells of a record counted from 0; the strings in `cells` are used again.
     void Read(int index, TCells& cells) const;
+    /// A record counted from 0 as it stands, without its line break.
+    std::string_view Text(int index) const;
 
 private:
-    std::size_t EndOfRecord(std::size_t at) const;
-    std::size_t BehindQuoted(std::size_t at) const;
-    void AppendQuoted(std::u16string& cell, std::size_t from, std::size_t to) const;
+    struct TRecord {
+        std::size_t begin, size;
+    };
+    std::size_t EndOfRecord(std::size_t begin) const;
+    std::size_t BehindQuoted(std::size_t opening) const;
+    std::size_t AppendQuoted(std::u16string& cell, std::string_view record, std::size_t at) const;
 
     std::string fText;
     char fSeparator = ';';
     char fQuote = 0;
-    std::vector<std::size_t> fStarts;
+    std::vector<TRecord> fRecords;
 };
 
 } // namespace vagrel

@@ -53,9 +53,7 @@ void TVGRCounter::CalcNumLabs() {
     fNumLabs = std::int32_t(std::clamp<TInt128>(std::clamp<TInt128>(values, -most, most) * fRepeat, -most, most));
 }
 
-void TVGRCounter::CalcValue() {
-    fValue = fBefore + (fFormat.empty() ? IntToStr(fCounter) : FormatFloat(fFormat, double(fCounter))) + fAfter;
-}
+void TVGRCounter::CalcValue() { fValue = fBefore + FormatInt(fFormat, fCounter) + fAfter; }
 
 void TVGRCounter::Reset() { MoveTo(1); }
 
@@ -100,7 +98,6 @@ void TVGRCounter::ReadJson(std::int32_t, TJsonObject& json) {
     fFormat = json.GetString(u"Format");
     fBefore = json.GetString(u"Before");
     fAfter = json.GetString(u"After");
-    CalcNumLabs();
 }
 
 } // namespace vagrel

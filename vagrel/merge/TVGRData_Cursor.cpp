@@ -14,13 +14,15 @@ namespace vagrel {
 
 // False where the selected source does not exist.
 bool TVGRData::OpenRecords() {
+    const TVGRDatasetItem* source = SelectedSource();
     switch (fType) {
     case dtyDataset:
         if (IKSLDataset* dataset = CurrentDataset())
             fRecords = detail::OpenDataset(*dataset);
         break;
     case dtyJson:
-        fRecords = detail::OpenJson(fJson, fDataSel);
+        // Captions count without regard to case, keys exactly.
+        fRecords = detail::OpenJson(fJson, source ? source->fCaption : fDataSel);
         break;
     case dtyCsv:
         fValidCsv = false;

@@ -14,7 +14,7 @@ namespace vagrel {
 /// Appends primitive values to a string of bytes.
 class TBinaryWriter {
 public:
-    /// A number in the width of its type; call as `Write<std::int16_t>(x)` to state the width.
+    /// A number in the width of its type, a bool as one byte; call as `Write<std::int16_t>(x)` to state the width.
     template <class T>
     requires std::integral<T> || std::floating_point<T>
     void Write(T value) {
@@ -23,7 +23,6 @@ public:
         std::memcpy(raw, &value, sizeof(T));
         fBytes.append(raw, sizeof(T));
     }
-    void Write(bool value) { fBytes += char(value); }
     /// Byte count in groups of seven bits, low group first, then UTF-8.
     void Write(std::u16string_view text);
     void WriteBytes(std::string_view bytes) { fBytes += bytes; }

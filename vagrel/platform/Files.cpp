@@ -5,33 +5,20 @@
 #include <vagrel/foundation/Exceptions.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <memory>
 
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace vagrel {
 
-namespace {
+namespace fs = std::filesystem;
 
-struct TCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using TFile = std::unique_ptr<std::FILE, TCloser>;
+namespace {
 
 [[noreturn]] void Fail(const char* what, const std::string& name, int error) {
     throw EStreamError(std::string("cannot ") + what + " \"" + name + "\": " + std::strerror(error));
-}
-
-// 0, or the system's error number.
-int WriteAndClose(TFile file, std::string_view bytes) {
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-    const int error = errno;
-    const bool closed = std::fclose(file.release()) == 0;
-    return !written ? error : closed ? 0 : errno;
 }
 
 } // namespace
@@ -41,7 +28,7 @@ std::string ReadFile(const std::string& name) {
     std::error_code none;
     if (std::filesystem::is_directory(name, none))
         Fail("read", name, EISDIR);
-    TFile file(std::fopen(name.c_str(), "rb"));
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(name.c_str(), "rb"), std::fclose);
     if (!file)
         Fail("read", name, errno);
     std::string bytes;
@@ -53,47 +40,69 @@ std::string ReadFile(const std::string& name) {
     return bytes;
 }
 
-void WriteFile(const std::string& name, std::string_view bytes) {
-    namespace fs = std::filesystem;
+TOutputFile::TOutputFile(const std::string& name) : fName(name) {
     std::error_code none;
     const fs::file_status old = fs::status(name, none);
     if (fs::exists(old) && !fs::is_regular_file(old)) {
-        // A device or a pipe is written through; a rename would put a file in its place.
-        TFile file(std::fopen(name.c_str(), "wb"));
-        if (!file)
+        // A rename would put a file in the place of a device or a pipe.
+        fFile.reset(std::fopen(name.c_str(), "wb"));
+        if (!fFile)
             Fail("write", name, errno);
-        if (const int error = WriteAndClose(std::move(file), bytes))
-            Fail("write", name, error);
         return;
     }
     // A rename would replace a file that is protected against writing.
     if (fs::exists(old) && access(name.c_str(), W_OK) != 0)
         Fail("write", name, errno);
     // What a link points to is replaced, not the link.
-    const std::string target = fs::exists(old) ? fs::canonical(name, none).string() : name;
-    std::string temporary = target + ".XXXXXX";
+    fTarget = fs::exists(old) ? fs::canonical(name, none).string() : name;
+    std::string temporary = fTarget + ".XXXXXX";
     const int handle = mkstemp(temporary.data());
     if (handle < 0)
         Fail("write", name, errno);
-    auto fail = [&](int error) {
-        std::remove(temporary.c_str());
-        Fail("write", name, error);
-    };
-    TFile file(fdopen(handle, "wb"));
-    if (!file) {
+    fFile.reset(fdopen(handle, "wb"));
+    if (!fFile) {
         const int error = errno;
         close(handle);
-        fail(error);
+        std::remove(temporary.c_str());
+        Fail("write", name, error);
     }
-    if (const int error = WriteAndClose(std::move(file), bytes))
-        fail(error);
+    fTemporary = temporary;
+}
 
+TOutputFile::~TOutputFile() {
+    if (!fTemporary.empty())
+        std::remove(fTemporary.c_str());
+}
+
+void TOutputFile::Write(std::string_view bytes) {
+    if (std::fwrite(bytes.data(), 1, bytes.size(), fFile.get()) != bytes.size())
+        Fail("write", fName, errno);
+}
+
+void TOutputFile::Close() {
+    if (fFile && std::fclose(fFile.release()) != 0)
+        Fail("write", fName, errno);
+}
+
+void TOutputFile::Commit() {
+    Close();
+    if (fTemporary.empty())
+        return;
     // mkstemp makes private files; a replaced file keeps its mode, a new one takes the usual one.
+    std::error_code none;
+    const fs::file_status old = fs::status(fTarget, none);
     const mode_t mask = umask(0);
     umask(mask);
-    fs::permissions(temporary, fs::exists(old) ? old.permissions() : fs::perms(0666 & ~mask), none);
-    if (std::rename(temporary.c_str(), target.c_str()) != 0)
-        fail(errno);
+    fs::permissions(fTemporary, fs::exists(old) ? old.permissions() : fs::perms(0666 & ~mask), none);
+    if (std::rename(fTemporary.c_str(), fTarget.c_str()) != 0)
+        Fail("write", fName, errno);
+    fTemporary.clear();
+}
+
+void WriteFile(const std::string& name, std::string_view bytes) {
+    TOutputFile file(name);
+    file.Write(bytes);
+    file.Commit();
 }
 
 bool FileExists(const std::string& name) {

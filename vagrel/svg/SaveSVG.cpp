@@ -2,6 +2,7 @@
 // The document as SVG: the frame around what the items write.
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/document/TVGRBasePrintInfo.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/foundation/Units.h>
@@ -22,11 +23,11 @@ void AppendLines(std::string& text, const std::vector<std::string>& lines) {
 }
 
 // User space is millimetres on paper, times the factor where the mode says so; the size of the picture adds the unit.
-std::string Root(const TSVGOutput& out, const TVGRMeasure& measure) {
+std::string Root(const TSVGOutput& out, const TVGRMeasure& measure, TKSLMeasureType across, TKSLMeasureType down) {
     const bool unit = out.ExportType == svCurrentUnit || out.ExportType == svFactor;
     const std::string_view suffix = unit ? "mm" : "";
-    const float width = GetBaseValue(measure.GetSize(mtLabelWidth, false));
-    const float height = GetBaseValue(measure.GetSize(mtLabelHeight, false));
+    const float width = GetBaseValue(measure.GetSize(across, false));
+    const float height = GetBaseValue(measure.GetSize(down, false));
     SvgElement root = out.Element();
     (root << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"").Val(width) << suffix << "\" height=\"";
     root.Val(height) << suffix << "\" viewBox=\"0 0 ";
@@ -34,16 +35,9 @@ std::string Root(const TSVGOutput& out, const TVGRMeasure& measure) {
     return root.Take();
 }
 
-} // namespace
-
-std::string TVGRBaseLabel::SVG(TKSLExportSVG type, float factor, bool attrID, bool portable) const {
-    TSVGOutput out{type, factor, attrID, portable, {}, {}};
-    for (const auto& item : fItems)
-        if (item->Shows({lopVisible, lopExport}))
-            item->WriteSVG(out);
-
+std::string Document(const TSVGOutput& out, const std::string& root) {
     std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
-    text += Root(out, *fMeasure);
+    text += root;
     if (!out.defs.empty()) {
         text += "<defs>\n";
         AppendLines(text, out.defs);
@@ -52,6 +46,54 @@ std::string TVGRBaseLabel::SVG(TKSLExportSVG type, float factor, bool attrID, bo
     AppendLines(text, out.svg);
     text += "</svg>\n";
     return text;
+}
+
+// An item on a sheet: what it writes itself, the same in each cell, or the copies that stand for it.
+struct TSheetItem {
+    std::vector<std::string> lines;
+    std::vector<const TVGRBaseItem*> copies;
+};
+
+} // namespace
+
+std::string TVGRBaseLabel::SVG(TKSLExportSVG type, float factor, bool attrID, bool portable) const {
+    TSVGOutput out{type, factor, attrID, portable, {}, {}};
+    for (const auto& item : fItems)
+        if (item->Shows({lopVisible, lopExport}))
+            item->WriteSVG(out);
+    return Document(out, Root(out, *fMeasure, mtLabelWidth, mtLabelHeight));
+}
+
+std::string TVGRBaseLabel::SheetSVG(TKSLExportSVG type, float factor, bool attrID, bool portable) const {
+    TSVGOutput out{type, factor, attrID, portable, {}, {}};
+    std::vector<TSheetItem> items;
+    for (const auto& item : fItems) {
+        if (!item->Shows({lopVisible, lopExport}))
+            continue;
+        TSheetItem& shown = items.emplace_back();
+        if (item->GetIsData()) {
+            for (const auto& copy : fPreview)
+                if (copy->GetInID() == item->GetInID())
+                    shown.copies.push_back(copy.get());
+        } else {
+            item->WriteSVG(out);
+            shown.lines = std::exchange(out.svg, {});
+        }
+    }
+    for (const TSheetCell& cell : fPrintInfo->Cells()) {
+        SvgElement group = out.Element();
+        (group << "<g transform=\"translate(").Val(GetBaseValue(cell.x)) << " ";
+        group.Val(GetBaseValue(cell.y)) << ")\">";
+        out.svg.push_back(group.Take());
+        for (const TSheetItem& item : items) {
+            out.svg.insert(out.svg.end(), item.lines.begin(), item.lines.end());
+            for (const TVGRBaseItem* copy : item.copies)
+                if (copy->GetRow() == cell.row && copy->GetCol() == cell.column)
+                    copy->WriteSVG(out);
+        }
+        out.svg.push_back("</g>");
+    }
+    return Document(out, Root(out, *fMeasure, mtPaperWidth, mtPaperHeight));
 }
 
 void TVGRBaseLabel::SaveSVG(std::u16string_view filename, TKSLExportSVG type, float factor, bool attrID,

@@ -20,21 +20,32 @@ bool IsWhole(double value) {
     return !(std::fabs(value) < 0x1p53) || double(std::int64_t(value)) == value;
 }
 
-// ii12 is drawn as ii21: documents and their readers rely on it.
-constexpr std::array<std::string_view, 12> Dashes{
-    "",
-    R"( stroke-dasharray="0.5 0.5" )",
-    R"( stroke-dasharray="1" )",
-    R"( stroke-dasharray="2 1" )",
-    R"( stroke-dasharray="2 1" )",
-    R"( stroke-dasharray="2 2" )",
-    R"( stroke-dasharray="3 1" )",
-    R"( stroke-dasharray="3 3" )",
-    R"( stroke-dasharray="4 1" )",
-    R"( stroke-dasharray="4 2" )",
-    R"( stroke-dasharray="4 4" )",
-    R"( stroke-dasharray="4 1 1 1" )",
+// A dash style as an attribute and as its lengths.
+struct TDash {
+    std::string_view attribute;
+    std::array<double, 4> lengths;
+    std::size_t count;
 };
+
+// ii12 is drawn as ii21: documents and their readers rely on it.
+constexpr std::array<TDash, 12> Dashes{{
+    {"", {}, 0},
+    {R"( stroke-dasharray="0.5 0.5" )", {0.5, 0.5}, 2},
+    {R"( stroke-dasharray="1" )", {1}, 1},
+    {R"( stroke-dasharray="2 1" )", {2, 1}, 2},
+    {R"( stroke-dasharray="2 1" )", {2, 1}, 2},
+    {R"( stroke-dasharray="2 2" )", {2, 2}, 2},
+    {R"( stroke-dasharray="3 1" )", {3, 1}, 2},
+    {R"( stroke-dasharray="3 3" )", {3, 3}, 2},
+    {R"( stroke-dasharray="4 1" )", {4, 1}, 2},
+    {R"( stroke-dasharray="4 2" )", {4, 2}, 2},
+    {R"( stroke-dasharray="4 4" )", {4, 4}, 2},
+    {R"( stroke-dasharray="4 1 1 1" )", {4, 1, 1, 1}, 4},
+}};
+
+const TDash& DashOf(TKSLineType type) {
+    return Dashes[type >= iiSolid && std::size_t(type) < Dashes.size() ? std::size_t(type) : 0];
+}
 
 std::string_view Entity(char16_t unit) {
     switch (unit) {
@@ -113,8 +124,7 @@ SvgElement& SvgElement::Fill(TAlphaColor color) {
 }
 
 SvgElement& SvgElement::Dash(TKSLineType type) {
-    if (type >= iiSolid && std::size_t(type) < Dashes.size())
-        fText += Dashes[std::size_t(type)];
+    fText += DashOf(type).attribute;
     return *this;
 }
 
@@ -134,6 +144,11 @@ std::string SvgElement::Take() {
     std::string out(fText);
     fText.clear();
     return out;
+}
+
+std::span<const double> DashLengths(TKSLineType type) {
+    const TDash& dash = DashOf(type);
+    return {dash.lengths.data(), dash.count};
 }
 
 } // namespace vagrel

@@ -5,6 +5,7 @@
 #include <vagrel/foundation/Colors.h>
 #include <vagrel/foundation/Enumerations.h>
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -58,6 +59,10 @@ private:
     TKSLExportSVG fType;
     float fFactor;
 };
+
+/// The lengths of a dash style in millimetres, dash and gap by turns from the start of a line; none for `iiSolid`. An
+/// odd number of them is repeated with dash and gap exchanged.
+std::span<const double> DashLengths(TKSLineType type);
 
 /// Appends `value` without decimals when it is whole, else with `decimals` of them.
 void AppendNumber(std::string& out, double value, int decimals);

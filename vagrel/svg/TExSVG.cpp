@@ -3,14 +3,12 @@
 #include <vagrel/svg/TExSVG.h>
 
 #include <vagrel/foundation/Numbers.h>
-#include <vagrel/foundation/Rounding.h>
-#include <vagrel/foundation/TDraw2D.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/svg/SvgElement.h>
+#include <vagrel/svg/TermShape.h>
 
 #include <array>
 #include <cmath>
-#include <initializer_list>
 #include <numbers>
 #include <utility>
 
@@ -23,17 +21,27 @@ constexpr std::array<std::u16string_view, 7> UnitNames{u"mm", u"in", u"cm", u"dm
 // For pieces without lengths.
 SvgElement Plain() { return SvgElement(svCurrentUnit, 1); }
 
-struct TSpot {
-    float x = 0;
-    float y = 0;
-};
-
 // Writes the elements of one terminal.
 class TTermWriter {
 public:
     TTermWriter(TKSLExportSVG type, float factor, float pen, TAlphaColor color, TAlphaColor fill)
         : fOut(type, factor), fPen(pen), fColor(color), fFill(fill) {}
 
+    std::string Write(const TTermPart& part) {
+        switch (part.kind) {
+        case TTermPart::Circle:
+            return Circle(part.spots[0], part.size, part.filled);
+        case TTermPart::Square:
+            return Square(part.spots[0], part.size, part.filled);
+        case TTermPart::Polygon:
+            return Polygon(part);
+        case TTermPart::Line:
+            break;
+        }
+        return Line(part.spots[0], part.spots[1]);
+    }
+
+private:
     std::string Circle(TSpot center, float radius, bool filled) {
         fOut << R"(<circle cx=")";
         fOut.Val(center.x) << R"(" cy=")";
@@ -51,15 +59,15 @@ public:
         return Figure(filled);
     }
 
-    std::string Polygon(std::initializer_list<TSpot> spots, bool filled) {
+    std::string Polygon(const TTermPart& part) {
         std::string_view between = R"(<polygon points=")";
-        for (const TSpot& spot : spots) {
+        for (int i = 0; i < part.count; ++i) {
             fOut << std::exchange(between, " ");
-            fOut.Val(spot.x) << ",";
-            fOut.Val(spot.y);
+            fOut.Val(part.spots[std::size_t(i)].x) << ",";
+            fOut.Val(part.spots[std::size_t(i)].y);
         }
         fOut << "\"";
-        return Figure(filled);
+        return Figure(part.filled);
     }
 
     std::string Line(TSpot from, TSpot to) {
@@ -71,7 +79,6 @@ public:
         return Stroke();
     }
 
-private:
     std::string Figure(bool filled) {
         if (filled)
             (fOut << " ").Fill(fFill);
@@ -151,39 +158,12 @@ std::string TExSVG::ScapeText(std::u16string_view aText) { return Plain().Text(a
 std::string TExSVG::DrawTerm(TKSLTermType aType, TKSLExportSVG ExportType, float p1x, float p1y, float p2x, float p2y,
                              float pW, float Factor, float aTerm, TAlphaColor Color, TAlphaColor FillColor, int aOpen,
                              bool IsArc) {
-    TTermWriter out(ExportType, Factor, pW, Color, FillColor);
-    const TSpot tip{p1x, p1y};
-    const float half = aTerm / 2;
-    const float left = p1x - half, right = p1x + half, top = p1y - half, bottom = p1y + half;
-
     const double direction = IsArc ? double(p2x) : std::atan2(double(p1y) - double(p2y), double(p1x) - double(p2x));
-    TSpot one, two;
-    TDraw2D::DrawArrow(p1x, p1y, direction, float(Round(double(aTerm))), one.x, one.y, two.x, two.y, aOpen);
-
-    switch (aType) {
-    case ttCircle:
-    case ttFillCircle:
-        return out.Circle(tip, half, aType == ttFillCircle);
-    case ttArrow:
-        return out.Line(tip, one) + LineEnd + out.Line(tip, two);
-    case ttFillArrow:
-        return out.Polygon({tip, one, two}, true);
-    case ttSquare:
-    case ttFillSquare:
-        return out.Square({left, top}, aTerm, aType == ttFillSquare);
-    case ttRhombus:
-    case ttFillRhombus:
-        return out.Polygon({{p1x, top}, {right, p1y}, {p1x, bottom}, {left, p1y}}, aType == ttFillRhombus);
-    case ttLeftDia:
-        return out.Line({left, top}, {right, bottom});
-    case ttRightDia:
-        return out.Line({right, top}, {left, bottom});
-    case ttCross:
-        return out.Line({left, top}, {right, bottom}) + LineEnd + out.Line({right, top}, {left, bottom});
-    case ttNone:
-        break;
-    }
-    return {};
+    TTermWriter out(ExportType, Factor, pW, Color, FillColor);
+    std::string text;
+    for (const TTermPart& part : TermShape(aType, {p1x, p1y}, direction, aTerm, aOpen))
+        (text += text.empty() ? "" : LineEnd) += out.Write(part);
+    return text;
 }
 
 } // namespace vagrel

@@ -114,17 +114,18 @@ TLabelPlace OnOblique(TKSLPto from, TKSLPto to, const TLabelSize& size, TKSLText
     const double mx = (double(from.bX) + double(to.bX)) / 2, my = (double(from.bY) + double(to.bY)) / 2;
     const double w = double(size.width) / 2, t = double(size.tall) / 2;
     const auto ascent = double(size.ascent), descent = double(size.descent), h = ascent + descent;
+    const std::int64_t halfBox = (size.ascent + size.descent) / 2;
     TLabelPlace place;
     if (textPos == tpHorz) {
         place.text = Rounded(mx - w, my - t + ascent - descent);
-        place.box = Rounded(mx - w, my - h / 2);
+        place.box = {Round(mx - w), SubSat(Trunc(my), halfBox)};
         GapThroughBox(from, to, mx, my, w, t, place);
         return place;
     }
     if (textPos == tpVert) {
         place.angle = Upright;
         place.text = Rounded(mx - t + ascent - descent, my + w);
-        place.box = Rounded(mx - h / 2, my + w);
+        place.box = {SubSat(Trunc(mx), halfBox), Round(my + w)};
         GapThroughBox(from, to, mx, my, t, w, place);
         return place;
     }
@@ -144,7 +145,7 @@ TLabelPlace OnOblique(TKSLPto from, TKSLPto to, const TLabelSize& size, TKSLText
         place.box = across(0);
         place.text = across(-ascent);
     } else {
-        place.box = across(h / 2);
+        place.box = across(double(halfBox));
         place.text = across(-(ascent - h / 2));
     }
     return place;

@@ -37,6 +37,7 @@ void TVGRBaseText::SetText(std::u16string_view value) {
     if (FillType() != ftNone && !fText.empty()) {
         fField.clear();
         fFillType = ftNone;
+        aIsData = false;
     }
     dText = fText;
     if (fState != isSelected)
@@ -164,7 +165,7 @@ void TVGRBaseText::SetBaseRadio(std::int64_t value) {
 
 TKSLFillType TVGRBaseText::FillType() const { return fOwner.GetData().GetLinkData() ? fFillType : ftNone; }
 
-std::u16string TVGRBaseText::SymFillName() const { return IncSymData(FillType(), fField); }
+std::u16string TVGRBaseText::SymFillName() const { return IncSymData(fFillType, fField); }
 
 void TVGRBaseText::SetData(TKSLFillType type, std::u16string_view name, std::u16string_view format) {
     fFillType = ftNone;

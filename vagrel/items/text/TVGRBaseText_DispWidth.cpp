@@ -84,7 +84,7 @@ TKSLRect TVGRBaseText::GetDispWidthHandleRect() const {
 }
 
 bool TVGRBaseText::PickDispWidthHandle(std::int64_t bx, std::int64_t by, std::int64_t gap) const {
-    if (!GetIsData())
+    if (!aIsData)
         return false;
     TKSLRect rect = GetDispWidthHandleRect();
     rect.Inflate(gap, gap);
@@ -108,7 +108,7 @@ void TVGRBaseText::SetDispWidthFromMouse(std::int64_t bx, std::int64_t by) {
 }
 
 void TVGRBaseText::CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt option) const {
-    if (GetIsData() && GetEffectiveWidth() != fMeasured.width)
+    if (aIsData && GetEffectiveWidth() != fMeasured.width)
         ClipToPage(bx, by, GetDisplayBoundsRect());
     else
         TVGRBaseItem::CheckBaseBoundsMove(bx, by, option);

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+#include <vagrel/barcode/TVGRBaseCode.h>
+
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/foundation/Rounding.h>
+#include <vagrel/items/text/LabelPosition.h>
+#include <vagrel/merge/FillSymbols.h>
+#include <vagrel/merge/TVGRData.h>
+#include <vagrel/persistence/TJsonObject.h>
+
+#include <algorithm>
+
+namespace vagrel {
+
+TVGRBaseCode::TVGRBaseCode(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview,
+                           const TCodeSizes& sizes)
+    : TVGR2DItem(owner, type, layer, preview), fBarWidth(sizes.barWidth), fBarHeight(sizes.barHeight),
+      fPaddingX(sizes.paddingX), fPaddingY(sizes.paddingY), fLeastWidth(sizes.leastWidth),
+      fLeastHeight(sizes.leastHeight) {}
+
+// The text
+
+void TVGRBaseCode::StoreCode(std::u16string_view value) {
+    constexpr char16_t lacking = 0x80;
+    fCode = value;
+    std::ranges::replace_if(
+        fCode, [](char16_t unit) { return unit > 0xFF; }, lacking);
+}
+
+std::string TVGRBaseCode::GetAnsiCode() const { return {fCode.begin(), fCode.end()}; }
+
+void TVGRBaseCode::SetCode(std::u16string_view value) {
+    if (value == fCode)
+        return;
+    StoreCode(value);
+    StateCalc();
+}
+
+// Sizes
+
+float TVGRBaseCode::ToUnit(std::int32_t base) const { return fOwner.GetVal(base, true); }
+std::int32_t TVGRBaseCode::ToBase(float value) const { return ToInt32(fOwner.SetVal(value, true)); }
+
+void TVGRBaseCode::SizeStored() {
+    MeasureSymbol();
+    UpdatePoints();
+    StateUpdate();
+}
+
+void TVGRBaseCode::StoreBars(std::int64_t width, std::int64_t height, float factor, cmd::TFloatIndex index) {
+    const std::int32_t newWidth = ToInt32(std::max<std::int64_t>(width, fLeastWidth));
+    const std::int32_t newHeight = ToInt32(std::max<std::int64_t>(height, fLeastHeight));
+    if (newWidth == fBarWidth && newHeight == fBarHeight && factor == fFactor)
+        return;
+    TVGRFloatCmd::AddCommand(*this, index);
+    fBarWidth = newWidth;
+    fBarHeight = newHeight;
+    fFactor = factor;
+    SizeStored();
+}
+
+void TVGRBaseCode::StorePadding(std::int32_t& field, float value) {
+    const std::int32_t base = std::max(ToBase(value), 0);
+    if (base == field)
+        return;
+    field = base;
+    SizeStored();
+}
+
+void TVGRBaseCode::StoreLimited(std::int64_t width, std::int64_t height, std::int64_t paddingX, std::int64_t paddingY) {
+    fBarWidth = ToInt32(std::max<std::int64_t>(width, fLeastWidth));
+    fBarHeight = ToInt32(std::max<std::int64_t>(height, fLeastHeight));
+    fPaddingX = ToInt32(std::max<std::int64_t>(paddingX, 0));
+    fPaddingY = ToInt32(std::max<std::int64_t>(paddingY, 0));
+}
+
+// Place
+
+void TVGRBaseCode::SetAngle(TKSLAngle value) {
+    if (value == fAngle)
+        return;
+    TVGR2DItem::SetAngle(value);
+    UpdateBounds();
+}
+
+void TVGRBaseCode::RotateLeft() {
+    fAngle = fAngle >= ag0 && fAngle < ag270 ? TKSLAngle(fAngle + 1) : ag0;
+    At(1) = {At(1).bY, SubSat(fOwner.GetMeasure().GetSize(mtLabelHeight, true), At(1).bX)};
+    UpdatePoints();
+}
+
+void TVGRBaseCode::RotateRight() {
+    fAngle = fAngle > ag0 && fAngle <= ag270 ? TKSLAngle(fAngle - 1) : ag270;
+    At(1) = {SubSat(fOwner.GetMeasure().GetSize(mtLabelWidth, true), At(1).bY), At(1).bX};
+    UpdatePoints();
+}
+
+void TVGRBaseCode::UpdateBounds() {
+    const std::int64_t scale = fOwner.GetMeasure().GetDrawScale();
+    At(2) = {AddSat(At(1).bX, MulSat(fBarCodeWidth, scale)), AddSat(At(1).bY, MulSat(fBarCodeHeight, scale))};
+    fBoundsRect = {At(1).bX, At(1).bY, At(2).bX, At(2).bY};
+    AdjustRect(fBoundsRect, fHorzAlign, fVertAlign, fAngle);
+}
+
+void TVGRBaseCode::CheckFit(TKSLExtent& extent) const {
+    extent.Widen(fBoundsRect.Left, fBoundsRect.Top, 0);
+    extent.Widen(fBoundsRect.Right, fBoundsRect.Bottom, 0);
+}
+
+TKSLBase TVGRBaseCode::CenterPoint() const {
+    return {AddSat(fBoundsRect.Left, fBoundsRect.GetWidth() / 2), AddSat(fBoundsRect.Top, fBoundsRect.GetHeight() / 2)};
+}
+
+TKSLRect TVGRBaseCode::Place(const TKSLRect& rect) const {
+    const std::int64_t scale = fOwner.GetMeasure().GetDrawScale();
+    const std::int64_t left = MulSat(rect.Left, scale), right = MulSat(rect.Right, scale);
+    const std::int64_t top = MulSat(rect.Top, scale), bottom = MulSat(rect.Bottom, scale);
+    const TKSLRect& box = fBoundsRect;
+    switch (fAngle) {
+    case ag90: // from the left bottom corner up the page
+        return {AddSat(box.Left, top), SubSat(box.Bottom, right), AddSat(box.Left, bottom), SubSat(box.Bottom, left)};
+    case ag180:
+        return {SubSat(box.Right, right), SubSat(box.Bottom, bottom), SubSat(box.Right, left), SubSat(box.Bottom, top)};
+    case ag270:
+        return {SubSat(box.Right, bottom), AddSat(box.Top, left), SubSat(box.Right, top), AddSat(box.Top, right)};
+    default:
+        return {AddSat(box.Left, left), AddSat(box.Top, top), AddSat(box.Left, right), AddSat(box.Top, bottom)};
+    }
+}
+
+// Data
+
+TKSLFillType TVGRBaseCode::FillType() const { return fOwner.GetData().GetLinkData() ? fBinding.type : ftNone; }
+
+std::u16string TVGRBaseCode::SymFillName() const { return IncSymData(FillType(), fBinding.field); }
+
+void TVGRBaseCode::SetData(TKSLFillType type, std::u16string_view name, std::u16string_view format) {
+    fBinding.Set(type, name, format);
+    aIsData = fBinding.IsSet();
+    StateCalc();
+}
+
+bool TVGRBaseCode::GetIsData() const { return aIsData && fOwner.GetData().IsValidData(fBinding.type, fBinding.field); }
+
+void TVGRBaseCode::FillData(bool update) {
+    if (!fOwner.GetData().IsValidData(FillType(), FillName()))
+        return;
+    StoreCode(fOwner.DataValue(FillName(), GetFormat(), FillType()));
+    if (update)
+        CalcValues(2);
+}
+
+// Files and SVG
+
+void TVGRBaseCode::WriteBarKeys(TJsonObject& json) const {
+    json.SetFloat(u"BarWidth", RoundTo3(GetBarWidth()));
+    json.SetFloat(u"BarHeight", RoundTo3(GetBarHeight()));
+}
+
+void TVGRBaseCode::WritePaddingKeys(TJsonObject& json) const {
+    json.SetFloat(u"PaddingX", RoundTo3(GetPaddingX()));
+    json.SetFloat(u"PaddingY", RoundTo3(GetPaddingY()));
+}
+
+void TVGRBaseCode::ReadBarKeys(TJsonObject& json) {
+    auto base = [&](std::u16string_view key) { return ToBase(float(json.GetFloat(key))); };
+    StoreLimited(base(u"BarWidth"), base(u"BarHeight"), base(u"PaddingX"), base(u"PaddingY"));
+}
+
+void TVGRBaseCode::WriteFrame(TSVGOutput& out) const {
+    if (!fFill)
+        return;
+    SvgElement rect = out.Element();
+    (rect << "<rect x=\"").Val(GetMM(fBoundsRect.Left)) << "\" y=\"";
+    rect.Val(GetMM(fBoundsRect.Top)) << "\" width=\"";
+    rect.Val(GetMM(fBoundsRect.GetWidth())) << "\" height=\"";
+    (rect.Val(GetMM(fBoundsRect.GetHeight())) << "\"" << GetSVGID(out)).Fill(fBackColor) << " stroke-width=\"0\"/>";
+    out.svg.push_back(rect.Take());
+}
+
+// An identifier stands once in a document: at the frame, or without one at the first bar.
+void TVGRBaseCode::WriteRects(TSVGOutput& out, const std::vector<TKSLRect>& rects) const {
+    bool named = fFill;
+    for (const TKSLRect& dark : rects) {
+        SvgElement rect = out.Element();
+        (rect << "<rect x=\"").Val(GetMM(dark.Left)) << "\" y=\"";
+        rect.Val(GetMM(dark.Top)) << "\" width=\"";
+        rect.Val(GetMM(dark.GetWidth())) << "\" height=\"";
+        (rect.Val(GetMM(dark.GetHeight())) << "\"" << (named ? "" : GetSVGID(out))).Fill(fColor) << "/>";
+        named = true;
+        out.svg.push_back(rect.Take());
+    }
+}
+
+} // namespace vagrel

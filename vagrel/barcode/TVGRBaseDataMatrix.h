@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// The Data Matrix.
+#pragma once
+
+#include <vagrel/barcode/CalcECC200.h>
+#include <vagrel/barcode/TVGRBaseMatrixCode.h>
+
+namespace vagrel {
+
+/// A square Data Matrix in the smallest size that holds the text. A text that none holds makes a blank box of the
+/// smallest size.
+class TVGRBaseDataMatrix : public TVGRBaseMatrixCode {
+public:
+    TVGRBaseDataMatrix(TVGRBaseLabel& owner, bool preview);
+    TVGRBaseDataMatrix(TVGRBaseLabel& owner, TVGRLayer& layer, bool preview);
+
+    /// Size and shape are kept in files; the symbol takes no notice of them.
+    TECC200Size GetDMSize() const { return fDMSize; }
+    void SetDMSize(TECC200Size value) { StoreChoice(fDMSize, value); }
+    TECC200Shape GetDMShape() const { return fDMShape; }
+    void SetDMShape(TECC200Shape value) { StoreChoice(fDMShape, value); }
+    bool IsValid() const override { return !fGrid.dark.empty(); }
+    void Encode() final;
+
+protected:
+    void WriteKeys(TJsonObject& json) const override;
+    void ReadKeys(std::int32_t version, TJsonObject& json) override;
+    void WriteFields(TBinaryWriter& writer) const override;
+    void ReadFields(std::int32_t version, TBinaryReader& reader) override;
+
+private:
+    TECC200Size fDMSize = ecc200_Autosize;
+    TECC200Shape fDMShape = ecc200_Square;
+};
+
+} // namespace vagrel

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+#include <vagrel/barcode/TVGRBasePDF417.h>
+
+#include <vagrel/barcode/Pdf417Modules.h>
+#include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/persistence/TBinaryWriter.h>
+#include <vagrel/persistence/TJsonObject.h>
+
+#include <algorithm>
+
+namespace vagrel {
+
+namespace {
+
+constexpr TCodeSizes Sizes{300, 600, 3000, 0, 100, 260};
+constexpr int MostCols = 30, MostRows = 90;
+constexpr std::uint16_t Padding = 900;
+// The first word counts those that are no correction, and there is no pattern for a higher one.
+constexpr int HighestWord = 928;
+
+std::int16_t Limited(int value, int most) { return std::int16_t(std::clamp(value, 0, most)); }
+
+} // namespace
+
+TVGRBasePDF417::TVGRBasePDF417(TVGRBaseLabel& owner, bool preview)
+    : TVGRBasePDF417(owner, owner.GetLayer(1), preview) {}
+
+TVGRBasePDF417::TVGRBasePDF417(TVGRBaseLabel& owner, TVGRLayer& layer, bool preview)
+    : TVGRBaseMatrixCode(owner, itPDF417, layer, preview, Sizes) {
+    fCode = u"PdfCode";
+    Encode();
+}
+
+void TVGRBasePDF417::SetCols(int value) { StoreGrid(fCols, value, MostCols); }
+void TVGRBasePDF417::SetRows(int value) { StoreGrid(fRows, value, MostRows); }
+
+void TVGRBasePDF417::StoreGrid(std::int16_t& field, int value, int most) {
+    value = Limited(value, most);
+    if (value == field)
+        return;
+    field = std::int16_t(value);
+    Encode();
+    UpdatePoints();
+    StateUpdate();
+}
+
+bool TVGRBasePDF417::ValidCode() const {
+    const int room = fXCount * fYCount - fNumErrorCWords;
+    return fEncoded && fXCount <= MostCols && fYCount <= MostRows && room >= fEncoder.GetUsedCWords() &&
+           room <= HighestWord;
+}
+
+void TVGRBasePDF417::AdjustErrorLevel() {
+    fErrorLevel = fEncoder.GetCorrecLevel(fCorrecLevel);
+    fNumErrorCWords = 2 << fErrorLevel;
+    TPDF417::AdjustSize(fXCount, fYCount, fNumErrorCWords, fEncoder.GetUsedCWords(), fCols, fRows);
+    if (ValidCode())
+        TPDF417::Complete(fCodeWords, fEncoder.GetUsedCWords(), fXCount * fYCount - fNumErrorCWords, fNumErrorCWords);
+}
+
+void TVGRBasePDF417::Encode() {
+    fCodeWords.fill(Padding);
+    fXCount = 1;
+    fYCount = 3;
+    fEncoded = fEncoder.Encode(fCodeWords, fCode);
+    if (fEncoded)
+        AdjustErrorLevel();
+    fGrid = {Pdf417RowModules(fXCount, fTruncated), fYCount, {}};
+    if (ValidCode())
+        fGrid.dark = Pdf417Modules(fCodeWords, fXCount, fYCount, fErrorLevel, fTruncated);
+    MeasureSymbol();
+}
+
+void TVGRBasePDF417::WriteKeys(TJsonObject& json) const {
+    TVGRBaseMatrixCode::WriteKeys(json);
+    json.SetInt(u"CorrecLevel", fCorrecLevel);
+    WriteSizeKeys(json);
+    json.SetBool(u"Truncated", fTruncated);
+    json.SetInt(u"Rows", fRows);
+    json.SetInt(u"Cols", fCols);
+    WriteCodeKeys(json);
+}
+
+void TVGRBasePDF417::ReadKeys(std::int32_t version, TJsonObject& json) {
+    TVGRBaseMatrixCode::ReadKeys(version, json);
+    fCorrecLevel = TKSLPdf417CorrectionLevel(json.GetInt(u"CorrecLevel"));
+    ReadSizeKeys(json);
+    fTruncated = json.GetBool(u"Truncated");
+    fRows = Limited(json.GetInt(u"Rows"), MostRows);
+    fCols = Limited(json.GetInt(u"Cols"), MostCols);
+    ReadCodeKeys(json);
+}
+
+void TVGRBasePDF417::WriteFields(TBinaryWriter& writer) const {
+    TVGRBaseMatrixCode::WriteFields(writer);
+    writer.Write(std::int32_t(fCorrecLevel));
+    WriteSizeFields(writer);
+    writer.Write(fTruncated);
+    writer.Write(fRows);
+    writer.Write(fCols);
+    WriteCodeFields(writer);
+}
+
+void TVGRBasePDF417::ReadFields(std::int32_t version, TBinaryReader& reader) {
+    TVGRBaseMatrixCode::ReadFields(version, reader);
+    fCorrecLevel = TKSLPdf417CorrectionLevel(reader.Read<std::int32_t>());
+    ReadSizeFields(reader);
+    fTruncated = reader.ReadBool();
+    fRows = Limited(reader.Read<std::int16_t>(), MostRows);
+    fCols = Limited(reader.Read<std::int16_t>(), MostCols);
+    ReadCodeFields(reader);
+}
+
+} // namespace vagrel
