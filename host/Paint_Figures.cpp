@@ -54,7 +54,8 @@ void RoundedBox(const CairoDraw& draw, TPaperPoint corner, double width, double 
                                    {corner.x + width - rx, corner.y + height - ry},
                                    {corner.x + rx, corner.y + height - ry},
                                    {corner.x + rx, corner.y + ry}};
-    cairo_new_sub_path(cr);
+    // Dashes begin at the top left, as in SVG.
+    draw.MoveTo({corner.x + rx, corner.y});
     for (int i = 0; i < 4; ++i) {
         const SavedContext saved(cr);
         cairo_translate(cr, centers[i].x, centers[i].y);

@@ -53,6 +53,11 @@ void TVGRBaseCode::StoreBars(std::int64_t width, std::int64_t height, float fact
     const std::int32_t newHeight = ToInt32(std::max<std::int64_t>(height, fLeastHeight));
     if (newWidth == fBarWidth && newHeight == fBarHeight && factor == fFactor)
         return;
+    // What follows from the value is recorded in front of it, so that undo brings it back behind it.
+    if (newWidth != fBarWidth && index != cmd::BarWidth)
+        TVGRFloatCmd::AddCommand(*this, cmd::BarWidth);
+    if (newHeight != fBarHeight && index != cmd::BarHeight)
+        TVGRFloatCmd::AddCommand(*this, cmd::BarHeight);
     TVGRFloatCmd::AddCommand(*this, index);
     fBarWidth = newWidth;
     fBarHeight = newHeight;
