@@ -91,7 +91,6 @@ void Expect(S& s, const A& a) {
         Compare("the snap", Numbers(a.Longs(u"snap")), Numbers({s.snap.bX, s.snap.bY}));
 }
 
-// clang-format off
 constexpr TSessionRow Rows[] = {
     // Tools
     {{u"SetAction", u"action"}, [](S& s, const A& a) { s.label.SetAction(a.Enum<TKSLEdAction>(u"action")); }},
@@ -102,16 +101,27 @@ constexpr TSessionRow Rows[] = {
     {{u"SetState", u"state"}, [](S&, const A& a) { TAct::SetState(a.Enum<TKSLEdState>(u"state")); }},
     // The pointer
     {{u"PickEditor", u"x y radius [gap] [shift] [refLines]"}, Pick},
-    {{u"SetMove", u"type [pos]"}, [](S&, const A& a) { TAct::SetMove(a.Enum<TKSLMoveType>(u"type"), std::int16_t(a.Int(u"pos", 0))); }},
-    {{u"MoveEditor", u"x y [gridX] [gridY] [refLines] [keyboard]"}, [](S& s, const A& a) { s.label.MoveEditor(X(a), Y(a), GridX(a), GridY(a), RefLines(a), a.Bool(u"keyboard", false)); }},
-    {{u"MoveGridEditor", u"x y [gridX] [gridY] [refLines]"}, [](S& s, const A& a) { s.answer = s.label.MoveGridEditor(X(a), Y(a), GridX(a), GridY(a), RefLines(a)); }},
+    {{u"SetMove", u"type [pos]"},
+     [](S&, const A& a) { TAct::SetMove(a.Enum<TKSLMoveType>(u"type"), std::int16_t(a.Int(u"pos", 0))); }},
+    {{u"MoveEditor", u"x y [gridX] [gridY] [refLines] [keyboard]"},
+     [](S& s, const A& a) {
+         s.label.MoveEditor(X(a), Y(a), GridX(a), GridY(a), RefLines(a), a.Bool(u"keyboard", false));
+     }},
+    {{u"MoveGridEditor", u"x y [gridX] [gridY] [refLines]"},
+     [](S& s, const A& a) { s.answer = s.label.MoveGridEditor(X(a), Y(a), GridX(a), GridY(a), RefLines(a)); }},
     {{u"UpEditor", u"x y"}, [](S& s, const A& a) { s.label.UpEditor(X(a), Y(a)); }},
-    {{u"RightButton", u"x y [gap] [shift]"}, [](S& s, const A& a) { s.label.RightButton(X(a), Y(a), GapOf(a), Shift(a)); }},
+    {{u"RightButton", u"x y [gap] [shift]"},
+     [](S& s, const A& a) { s.label.RightButton(X(a), Y(a), GapOf(a), Shift(a)); }},
     {{u"DoDblClick", u""}, [](S& s, const A&) { s.answer = s.label.DoDblClick(); }},
     {{u"EditSelText", u""}, [](S& s, const A&) { s.label.EditSelText(); }},
-    {{u"SearchPoint", u"x y snap [gap] [excludeSelected]"}, [](S& s, const A& a) { s.answer = s.label.SearchPoint(X(a), Y(a), GapOf(a), a.Enum<TKSLSnap>(u"snap"), s.snap, a.Bool(u"excludeSelected", false)); }},
+    {{u"SearchPoint", u"x y snap [gap] [excludeSelected]"},
+     [](S& s, const A& a) {
+         s.answer = s.label.SearchPoint(X(a), Y(a), GapOf(a), a.Enum<TKSLSnap>(u"snap"), s.snap,
+                                        a.Bool(u"excludeSelected", false));
+     }},
     {{u"ResetSnap", u""}, [](S& s, const A&) { s.snap.Reset(true); }},
-    {{u"SearchSelectedText", u"x y [gap] [shift]"}, [](S& s, const A& a) { s.answer = s.label.SearchSelectedText(X(a), Y(a), GapOf(a), Shift(a)); }},
+    {{u"SearchSelectedText", u"x y [gap] [shift]"},
+     [](S& s, const A& a) { s.answer = s.label.SearchSelectedText(X(a), Y(a), GapOf(a), Shift(a)); }},
     // Undo
     {{u"Undo", u"[times]"}, Repeat<&TVGRBaseLabel::Undo>},
     {{u"Redo", u"[times]"}, Repeat<&TVGRBaseLabel::Redo>},
@@ -119,22 +129,38 @@ constexpr TSessionRow Rows[] = {
     {{u"EndUpdate", u""}, [](S& s, const A&) { s.label.EndUpdate(); }},
     // The selection
     {{u"SetSelection", u"item"}, [](S& s, const A& a) { s.label.SetSelection(&a.Item(s.label, u"item"), isSelected); }},
-    {{u"AddToSelection", u"item [notify]"}, [](S& s, const A& a) { s.label.AddToSelection(a.Item(s.label, u"item"), a.Bool(u"notify", true)); }},
+    {{u"AddToSelection", u"item [notify]"},
+     [](S& s, const A& a) { s.label.AddToSelection(a.Item(s.label, u"item"), a.Bool(u"notify", true)); }},
     {{u"ClearSelection", u"[notify]"}, [](S& s, const A& a) { s.label.ClearSelection(a.Bool(u"notify", true)); }},
     {{u"SelectNext", u""}, [](S& s, const A&) { s.answer = s.label.SelectNext(); }},
     {{u"SelectPrior", u""}, [](S& s, const A&) { s.answer = s.label.SelectPrior(); }},
-    {{u"DeleteItem", u"item [removeSelection]"}, [](S& s, const A& a) { s.label.DeleteItem(a.Item(s.label, u"item"), a.Bool(u"removeSelection", true)); }},
+    {{u"DeleteItem", u"item [removeSelection]"},
+     [](S& s, const A& a) { s.label.DeleteItem(a.Item(s.label, u"item"), a.Bool(u"removeSelection", true)); }},
     {{u"DeleteSelection", u""}, [](S& s, const A&) { s.label.DeleteSelection(); }},
     {{u"DeletePoint", u"index"}, [](S& s, const A& a) { s.answer = s.label.DeletePoint(a.Int(u"index")); }},
     {{u"CopySelection", u""}, [](S& s, const A&) { s.label.CopySelection(); }},
     {{u"PasteSelection", u""}, [](S& s, const A&) { s.label.PasteSelection(); }},
     // Moves
-    {{u"MoveSelection", u"x y [refLines] [checkBounds]"}, [](S& s, const A& a) { s.answer = s.label.MoveSelection(a.Float(u"x"), a.Float(u"y"), RefLines(a), CheckBounds(a)); }},
-    {{u"MoveSize", u"value side [refLines] [checkBounds]"}, [](S& s, const A& a) { s.answer = s.label.MoveSize(a.Float(u"value"), a.Enum<TKSLMoveOpt>(u"side"), RefLines(a), CheckBounds(a)); }},
-    {{u"MoveBaseSelection", u"x y [refLines] [checkBounds]"}, [](S& s, const A& a) { s.answer = s.label.MoveBaseSelection(X(a), Y(a), RefLines(a), CheckBounds(a)); }},
+    {{u"MoveSelection", u"x y [refLines] [checkBounds]"},
+     [](S& s, const A& a) {
+         s.answer = s.label.MoveSelection(a.Float(u"x"), a.Float(u"y"), RefLines(a), CheckBounds(a));
+     }},
+    {{u"MoveSize", u"value side [refLines] [checkBounds]"},
+     [](S& s, const A& a) {
+         s.answer = s.label.MoveSize(a.Float(u"value"), a.Enum<TKSLMoveOpt>(u"side"), RefLines(a), CheckBounds(a));
+     }},
+    {{u"MoveBaseSelection", u"x y [refLines] [checkBounds]"},
+     [](S& s, const A& a) { s.answer = s.label.MoveBaseSelection(X(a), Y(a), RefLines(a), CheckBounds(a)); }},
     {{u"MoveBaseGridSelection", u"x y right down [gridX] [gridY] [refLines] [checkBounds]"}, MoveToGrid},
-    {{u"MoveBaseSize", u"x y side [gridX] [gridY] [refLines] [checkBounds]"}, [](S& s, const A& a) { s.answer = s.label.MoveBaseSize(X(a), Y(a), GridX(a), GridY(a), a.Enum<TKSLMoveOpt>(u"side"), RefLines(a), CheckBounds(a)); }},
-    {{u"MoveBasePoint", u"x y [gridX] [gridY] [refLines] [checkBounds]"}, [](S& s, const A& a) { s.answer = s.label.MoveBasePoint(X(a), Y(a), GridX(a), GridY(a), RefLines(a), CheckBounds(a)); }},
+    {{u"MoveBaseSize", u"x y side [gridX] [gridY] [refLines] [checkBounds]"},
+     [](S& s, const A& a) {
+         s.answer = s.label.MoveBaseSize(X(a), Y(a), GridX(a), GridY(a), a.Enum<TKSLMoveOpt>(u"side"), RefLines(a),
+                                         CheckBounds(a));
+     }},
+    {{u"MoveBasePoint", u"x y [gridX] [gridY] [refLines] [checkBounds]"},
+     [](S& s, const A& a) {
+         s.answer = s.label.MoveBasePoint(X(a), Y(a), GridX(a), GridY(a), RefLines(a), CheckBounds(a));
+     }},
     // Arrangement
     {{u"AlignObjects", u"edge"}, [](S& s, const A& a) { s.label.AlignObjects(a.Enum<TKSLObjectAlign>(u"edge")); }},
     {{u"CenterHorizontal", u""}, [](S& s, const A&) { s.label.CenterHorizontal(); }},
@@ -148,9 +174,10 @@ constexpr TSessionRow Rows[] = {
     {{u"SendToBack", u""}, [](S& s, const A&) { s.label.SendToBack(); }},
     {{u"BringToFront", u""}, [](S& s, const A&) { s.label.BringToFront(); }},
     // Tests
-    {{u"expect", u"[action] [state] [items] [selection] [selected] [handles] [guides] [undoEmpty] [redoEmpty] [answer] [snap]"}, Expect},
+    {{u"expect",
+      u"[action] [state] [items] [selection] [selected] [handles] [guides] [undoEmpty] [redoEmpty] [answer] [snap]"},
+     Expect},
 };
-// clang-format on
 
 } // namespace
 

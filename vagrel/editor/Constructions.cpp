@@ -67,50 +67,108 @@ struct TConstruction {
     TInspect inspect = {};
 };
 
-constexpr bool Crossings = true, Repaint = true, Quiet = false;
+// How the picks reach a factory.
 
-// clang-format off
+template <auto Create>
+TItem& Place(TLabel& label, const TPicks& picks) {
+    return (label.*Create)(picks.X(0), picks.Y(0));
+}
+template <auto Create>
+TItem& Ends(TLabel& label, const TPicks& picks) {
+    return (label.*Create)(picks.X(0), picks.Y(0), picks.X(1), picks.Y(1));
+}
+template <auto Create>
+TItem& Box(TLabel& label, const TPicks& picks) {
+    return (label.*Create)(picks.X(0), picks.Y(0), picks.W(), picks.H());
+}
+template <auto Create>
+TItem& Chain(TLabel& label, const TPicks& picks) {
+    return (label.*Create)(picks.All());
+}
+template <auto Create, auto... More>
+TItem& Radius(TLabel& label, const TPicks& picks) {
+    return (label.*Create)(picks[0], picks.Radius(), More...);
+}
+template <auto Create, auto... More>
+TItem& TwoPoints(TLabel& label, const TPicks& picks) {
+    return (label.*Create)(picks[0], picks[1], More...);
+}
+template <auto Create, auto... More>
+TItem& ThreePoints(TLabel& label, const TPicks& picks) {
+    return (label.*Create)(picks[0], picks[1], picks[2], More...);
+}
+template <auto Create>
+TItem& OfCircle(TLabel& label, const TPicks& picks) {
+    return (label.*Create)(picks.Center(), picks.CircleRadius(), picks.Angle());
+}
+
+// A new code shows the name of its symbology.
+TItem& Pdf417(TLabel& label, const TPicks& picks) { return label.CreatePDF417(picks.X(0), picks.Y(0), u"PDF417"); }
+TItem& DataMatrix(TLabel& label, const TPicks& picks) {
+    return label.CreateDataMatrix(picks.X(0), picks.Y(0), u"DataMatrix");
+}
+TItem& QRCode(TLabel& label, const TPicks& picks) { return label.CreateQRCode(picks.X(0), picks.Y(0), u"QRCode"); }
+TItem& Barcode(TLabel& label, const TPicks& picks) {
+    return label.CreateBarcode(picks.X(0), picks.Y(0), u"123456", btCODE39);
+}
+TItem& Ellipse(TLabel& label, const TPicks& picks) {
+    return label.CreateEllipse(picks[0], Size(picks.W()), Size(SubSat(picks.Y(2), picks.Y(0))));
+}
+TItem& Picture(TLabel& label, const TPicks& picks) {
+    return label.CreateImage(picks.X(0), picks.Y(0), picks.W(), picks.H(), picks.keepAspect, u"");
+}
+TItem& Flow(TLabel& label, const TPicks& picks) {
+    return label.CreateFlow(picks.X(0), picks.Y(0), picks.W(), picks.H(), TAct::GetFlowType());
+}
+TItem& Link(TLabel& label, const TPicks& picks) {
+    return label.CreateLink(picks.From(), picks.To(), TAct::GetLinkType());
+}
+TItem& PolyLink(TLabel& label, const TPicks& picks) {
+    return label.CreatePolyLink(picks.From(), picks.To(), TAct::GetLinkType(), picks.All());
+}
+
+constexpr bool Crossings = true, NoCrossings = false, Repaint = true, NoRepaint = false;
+
 constexpr TConstruction Constructions[] = {
-    {eaPoint, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreatePoint(p.X(0), p.Y(0)); }},
-    {eaLine, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateLine(p.X(0), p.Y(0), p.X(1), p.Y(1)); }, Crossings},
-    {eaArrowLine, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateArrowLine(p.X(0), p.Y(0), p.X(1), p.Y(1)); }, Crossings},
-    {eaRectangle, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateRectangle(p.X(0), p.Y(0), p.W(), p.H()); }, Crossings},
-    {eaPolyline, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreatePolyLine(p.All()); }, Crossings},
-    {eaPolygon, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreatePolygon(p.All()); }, Crossings},
-    {eaBezier, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateBezier(p.All()); }, Crossings},
-    {eaArc, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateArc(p[0], p[1], p[2]); }, Crossings},
-    {eaCirclePR, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateCircle(p[0], p.Radius()); }, Crossings},
-    {eaCircle2P, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateCircle2P(p[0], p[1]); }, Crossings},
-    {eaCircle3P, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateCircle3P(p[0], p[1], p[2]); }, Crossings},
-    {eaEllipse, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateEllipse(p[0], Size(p.W()), Size(SubSat(p.Y(2), p.Y(0)))); }, Crossings},
-    {eaText, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateText(p.X(0), p.Y(0)); }},
-    {eaParagraph, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreatePara(p.X(0), p.Y(0), p.W(), p.H()); }, {}, Quiet, {ipMemo, 1}},
-    {eaRichText, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateRichText(p.X(0), p.Y(0), p.W(), p.H()); }, {}, Quiet, {ipMemo, 1}},
-    {eaBarcode, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateBarcode(p.X(0), p.Y(0), u"123456", btCODE39); }},
-    {eaPDF417, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreatePDF417(p.X(0), p.Y(0), u"PDF417"); }, {}, Repaint, {ipMemo, 10}},
-    {eaDataMatrix, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateDataMatrix(p.X(0), p.Y(0), u"DataMatrix"); }, {}, Repaint, {ipMemo, 11}},
-    {eaQRCode, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateQRCode(p.X(0), p.Y(0), u"QRCode"); }, {}, Repaint, {ipMemo, 12}},
-    {eaImage, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateImage(p.X(0), p.Y(0), p.W(), p.H(), p.keepAspect, u""); }, {}, Repaint, {ipImage, 1, false}},
-    {eaFlow, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateFlow(p.X(0), p.Y(0), p.W(), p.H(), TAct::GetFlowType()); }, {}, Quiet, {ipMemo, 2}},
-    {eaLink, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateLink(p.From(), p.To(), TAct::GetLinkType()); }},
-    {eaPolyLink, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreatePolyLink(p.From(), p.To(), TAct::GetLinkType(), p.All()); }},
-    {eaTable, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateTable(p.X(0), p.Y(0), p.W(), p.H()); }},
-    {eaPolyText, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreatePolyText(p.X(0), p.Y(0)); }, {}, Repaint, {ipPolyText, 2}},
-    {eaRank, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateRank(p.X(0), p.Y(0), p.W(), p.H()); }},
-    {eaNutriScore, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateNutriScore(p.X(0), p.Y(0), p.W(), p.H()); }},
-    {eaLevel, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateLevel(p[0], p.Radius()); }},
-    {eaSymbol, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateSymbol(p.X(0), p.Y(0)); }},
-    {eaDim, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateDim(p[0], p[1], p[2]); }},
-    {eaDimRad1, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateDimRad1(p.Center(), p.CircleRadius(), p.Angle()); }},
-    {eaDimRad2, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateDimRad2(p.Center(), p.CircleRadius(), p.Angle()); }},
-    {eaDimDia1, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateDimDia1(p.Center(), p.CircleRadius(), p.Angle()); }},
-    {eaDimDia2, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateDimDia2(p.Center(), p.CircleRadius(), p.Angle()); }},
-    {eaSectorPR, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateSector(p[0], p.Radius(), 0, 360); }},
-    {eaSector2P, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateSector2P(p[0], p[1], 0, 360); }},
-    {eaSector3P, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreateSector3P(p[0], p[1], p[2], 0, 360); }},
-    {eaPackage, [](TLabel& l, const TPicks& p) -> TItem& { return l.CreatePackage(p.X(0), p.Y(0), p.W(), p.H()); }},
+    {eaPoint, Place<&TLabel::CreatePoint>},
+    {eaLine, Ends<&TLabel::CreateLine>, Crossings},
+    {eaArrowLine, Ends<&TLabel::CreateArrowLine>, Crossings},
+    {eaRectangle, Box<&TLabel::CreateRectangle>, Crossings},
+    {eaPolyline, Chain<&TLabel::CreatePolyLine>, Crossings},
+    {eaPolygon, Chain<&TLabel::CreatePolygon>, Crossings},
+    {eaBezier, Chain<&TLabel::CreateBezier>, Crossings},
+    {eaArc, ThreePoints<&TLabel::CreateArc>, Crossings},
+    {eaCirclePR, Radius<&TLabel::CreateCircle>, Crossings},
+    {eaCircle2P, TwoPoints<&TLabel::CreateCircle2P>, Crossings},
+    {eaCircle3P, ThreePoints<&TLabel::CreateCircle3P>, Crossings},
+    {eaEllipse, Ellipse, Crossings},
+    {eaText, Place<&TLabel::CreateText>},
+    {eaParagraph, Box<&TLabel::CreatePara>, NoCrossings, NoRepaint, {ipMemo, 1}},
+    {eaRichText, Box<&TLabel::CreateRichText>, NoCrossings, NoRepaint, {ipMemo, 1}},
+    {eaBarcode, Barcode},
+    {eaPDF417, Pdf417, NoCrossings, Repaint, {ipMemo, 10}},
+    {eaDataMatrix, DataMatrix, NoCrossings, Repaint, {ipMemo, 11}},
+    {eaQRCode, QRCode, NoCrossings, Repaint, {ipMemo, 12}},
+    {eaImage, Picture, NoCrossings, Repaint, {ipImage, 1, false}},
+    {eaFlow, Flow, NoCrossings, NoRepaint, {ipMemo, 2}},
+    {eaLink, Link},
+    {eaPolyLink, PolyLink},
+    {eaTable, Box<&TLabel::CreateTable>},
+    {eaPolyText, Place<&TLabel::CreatePolyText>, NoCrossings, Repaint, {ipPolyText, 2}},
+    {eaRank, Box<&TLabel::CreateRank>},
+    {eaNutriScore, Box<&TLabel::CreateNutriScore>},
+    {eaLevel, Radius<&TLabel::CreateLevel>},
+    {eaSymbol, Place<&TLabel::CreateSymbol>},
+    {eaDim, ThreePoints<&TLabel::CreateDim>},
+    {eaDimRad1, OfCircle<&TLabel::CreateDimRad1>},
+    {eaDimRad2, OfCircle<&TLabel::CreateDimRad2>},
+    {eaDimDia1, OfCircle<&TLabel::CreateDimDia1>},
+    {eaDimDia2, OfCircle<&TLabel::CreateDimDia2>},
+    {eaSectorPR, Radius<&TLabel::CreateSector, 0, 360>},
+    {eaSector2P, TwoPoints<&TLabel::CreateSector2P, 0, 360>},
+    {eaSector3P, ThreePoints<&TLabel::CreateSector3P, 0, 360>},
+    {eaPackage, Box<&TLabel::CreatePackage>},
 };
-// clang-format on
 
 } // namespace
 
