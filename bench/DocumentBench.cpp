@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// A document of 100,000 mixed lines and figures: made, saved, loaded, exported. Figures, with the peak memory of the
-// process.
+// A document of 100,000 mixed lines and figures: made, saved and loaded in both forms, exported. Figures, with the peak
+// memory of the process.
 #include <host/HostLabel.h>
 
 #include <benchmark/benchmark.h>
 
-#include <cstdio>
+#include <filesystem>
 #include <random>
 
 #include <sys/resource.h>
@@ -14,7 +14,7 @@ namespace vagrel {
 namespace {
 
 constexpr int Count = 100'000;
-constexpr const char* FileName = "/tmp/vagrel-bench-document.json";
+constexpr const char16_t* FileName = u"/tmp/vagrel-bench-document";
 
 double PeakMegabytes() {
     rusage usage{};
@@ -61,22 +61,25 @@ void Make(benchmark::State& state) {
     state.counters["peak MB"] = PeakMegabytes();
 }
 
+template <TKSLExt Format>
 void Save(benchmark::State& state) {
     HostLabel label;
     Fill(label, Count);
     for (auto _ : state)
-        label.SaveToFile(u"/tmp/vagrel-bench-document.json", lfJSON);
+        label.SaveToFile(FileName, Format);
+    state.counters["file MB"] = double(std::filesystem::file_size(FileName)) / 1e6;
     state.counters["peak MB"] = PeakMegabytes();
 }
 
+// Loads what the row before has saved.
 void Load(benchmark::State& state) {
     for (auto _ : state) {
         HostLabel label;
-        label.LoadFromFile(u"/tmp/vagrel-bench-document.json");
+        label.LoadFromFile(FileName);
         benchmark::DoNotOptimize(label.ItemsCount());
     }
     state.counters["peak MB"] = PeakMegabytes();
-    std::remove(FileName);
+    std::filesystem::remove(FileName);
 }
 
 void ExportSvg(benchmark::State& state) {
@@ -92,8 +95,10 @@ void ExportSvg(benchmark::State& state) {
 }
 
 BENCHMARK(Make)->Unit(benchmark::kMillisecond)->Iterations(3);
-BENCHMARK(Save)->Unit(benchmark::kMillisecond)->Iterations(3);
-BENCHMARK(Load)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(Save<lfJSON>)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(Load)->Name("Load<lfJSON>")->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(Save<lfBin>)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(Load)->Name("Load<lfBin>")->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(ExportSvg)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 } // namespace

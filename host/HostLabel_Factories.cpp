@@ -56,6 +56,7 @@ TCircle Through(TKSLPto a, TKSLPto b, TKSLPto c) {
 TVGRBaseItem& HostLabel::Make(TKSLItemType type, const TKSLPtoA& points) {
     TVGRBaseItem& item = MakeItem(*this, ActiveLayer(), type, int(points.size()));
     item.AssignPoints(points);
+    item.StateUpdate();
     return item;
 }
 
@@ -126,9 +127,14 @@ TVGRBaseItem& HostLabel::CreateQRCode(std::int64_t x, std::int64_t y, std::u16st
     return Coded(Make(itQRCode, {{x, y}}), text);
 }
 
+TVGRBaseItem& HostLabel::CreateText(std::int64_t x, std::int64_t y) {
+    TVGRBaseItem& text = Make(itText, {{x, y}});
+    text.CalcValues(2);
+    return text;
+}
+
 // Families that the registry does not have yet.
 
-TVGRBaseItem& HostLabel::CreateText(std::int64_t x, std::int64_t y) { return Make(itText, {{x, y}}); }
 TVGRBaseItem& HostLabel::CreatePara(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) {
     return Make(itPara, Box(x, y, width, height));
 }

@@ -21,6 +21,7 @@ void AddConvert(CLI::App& app);
 void AddBarcode(CLI::App& app);
 void AddMerge(CLI::App& app);
 void AddFields(CLI::App& app);
+void AddPlay(CLI::App& app);
 
 /// Names of an enumeration for an argument, in the order of its values.
 using TNames = std::vector<std::pair<std::string, int>>;

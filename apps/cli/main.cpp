@@ -83,6 +83,7 @@ int Run(int argc, char** argv) {
     AddBarcode(app);
     AddMerge(app);
     AddFields(app);
+    AddPlay(app);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& success) {

@@ -127,20 +127,24 @@ TEST(Measure, MarksAndPrintMarginsStayOnTheLabel) {
 }
 
 TEST(TitleBlock, ExistsInChartsAndDrawingsOnALayerOfItsOwn) {
-    auto fill = [](TestHost& label) {
-        try {
-            label.FillBoxLayer(false);
-        } catch (const ENotAvailable&) { // texts
-        }
-    };
     TestHost label(emInteractive);
-    fill(label);
+    label.FillBoxLayer(false);
     EXPECT_EQ(label.LayersCount(), 1);
     TestHost drawing(emDrawing, unM, 50);
-    for (int round = 0; round < 2; ++round) {
-        fill(drawing);
+    auto textOf = [&](std::u16string_view id) {
+        const auto* text = Query<IKSLText>(drawing.SearchItem(id, false));
+        return text ? text->GetText() : u"none";
+    };
+    for (const bool reset : {false, true, false}) {
+        drawing.GetMeasure().fTitle = reset ? u"House" : u"Barn";
+        drawing.FillBoxLayer(reset);
         ASSERT_EQ(drawing.LayersCount(), 2);
+        EXPECT_EQ(drawing.ItemsCount(), 8);
+        EXPECT_EQ(textOf(u"bxidtitle"), drawing.GetMeasure().fTitle);
+        EXPECT_EQ(textOf(u"bxIDScale"), u"1:50");
     }
+    // The scale stands in the middle of its box.
+    EXPECT_EQ(drawing.SearchItem(u"bxIDScale", false)->CenterPoint().X, (210000 - 25000) * 50);
     EXPECT_TRUE(drawing.GetLayer(2).GetOptions().Has(lopBox));
     EXPECT_FALSE(drawing.GetLayer(2).GetOptions().Has(lopSelectable));
     TVGRBaseItem* line = drawing.SearchItem(u"BXIDLINE2", false);

@@ -4,7 +4,8 @@
 // The body of this class is spread by topic: TVGRBaseLabel.cpp (life, identifiers), _Update (update cycle, reading
 // bracket, clearing), _Units (units and values), _Lists (accessors, ownership, layers), _io (JSON), TitleBlock.cpp,
 // _Undo (undo stacks), Selection.cpp, Selection_Move.cpp, Arrange.cpp, svg/SaveSVG.cpp, merge/PageFill.cpp,
-// merge/Values.cpp, merge/FieldLists.cpp, editor/Picking.cpp, Snapping.cpp, Handles.cpp, Drag.cpp, Intersections.cpp.
+// merge/Values.cpp, merge/FieldLists.cpp, editor/Actions.cpp, PickEditor.cpp, Constructions.cpp, UpEditor.cpp,
+// RightButton.cpp, Picking.cpp, Snapping.cpp, Handles.cpp, Drag.cpp, LineSegments.cpp, Intersections.cpp.
 #pragma once
 
 #include <vagrel/document/Events.h>
@@ -358,6 +359,37 @@ public:
     std::vector<std::u16string> GetMasterDetailFields(std::u16string_view symName, bool incSymbol,
                                                       bool excludeImg) const;
 
+    // Editor: actions. The host forwards its events; `TAct` is the action that runs. A tool that this host cannot
+    // construct throws what its factory throws; the action is reset then and nothing is recorded.
+
+    /// Begins an action. eaEdText needs a selected text and resets without one; eaSymbol asks the host for a symbol.
+    void SetAction(TKSLEdAction action);
+    /// Begins eaFlow with an outline.
+    void FlowAction(TKSLFlowType type);
+    /// Begins eaLink or eaPolyLink with a route.
+    void LinkAction(TKSLinkType type);
+    /// Escape: back to selection with nothing selected.
+    void ResetAction();
+    /// Leaves the last tool for selection, and selection for the last tool.
+    void LastAction();
+    /// The left button goes down. The ends of a link are given as the number of the item and the anchor. A document
+    /// that is not editable only selects.
+    void PickEditor(std::int64_t bx, std::int64_t by, std::int32_t gap, TShiftState shift, bool refLines);
+    /// A radius was typed in while one is waited for.
+    void PickEditor(std::int32_t radius, TShiftState shift, bool refLines);
+    /// The left button goes up.
+    void UpEditor(std::int64_t bx, std::int64_t by);
+    /// The right button goes down: ends a chain of points or a choice of references, adds a vertex to the selected
+    /// chain (not recorded), or leaves the action.
+    void RightButton(std::int64_t bx, std::int64_t by, std::int64_t gap, TShiftState shift);
+    /// Hides the first selected item and has the host open it in its text editor; nothing without a selection.
+    void EditSelText();
+    /// The segment, from 1, of a line, dimension, polyline or polygon that lies nearest to a place; false for other
+    /// items.
+    bool GetItemLineSegmentIndex(const TVGRBaseItem& item, std::int64_t bx, std::int64_t by, int& index,
+                                 TKSLRefLine& segment) const;
+    bool GetItemLineSegment(const TVGRBaseItem& item, std::int64_t bx, std::int64_t by, TKSLRefLine& segment) const;
+
     // Editor: picking, handles, drags, crossings. Places are base coordinates and `gap` is the tolerance of the pointer
     // in base units. Searches go from the top item down, over what is visible and selectable.
 
@@ -590,6 +622,19 @@ private:
     void Turn(bool left);
     void MoveInZOrder(bool front);
 
+    // Editor: actions
+
+    struct TPress;
+    /// Makes the item of the action from its picks, selects it and ends the action. `typed` is for a radius that was
+    /// typed in.
+    void Construct(TShiftState shift, bool typed);
+    void ConstructAngle();
+    void EndRectangle(std::int64_t bx, std::int64_t by);
+    void EndDrag();
+    void EndTextDrag();
+    void EndReferences();
+    bool InsertVertex(std::int64_t bx, std::int64_t by, std::int64_t gap);
+
     // Editor: picking, handles, drags, crossings
 
     /// The topmost item that is visible, selectable and `wanted`; null for none. All searches by place come here, so
@@ -600,8 +645,6 @@ private:
     void Unselect(TVGRBaseItem& item);
     /// Tells of a new selection; a single text of the given types that is not bound to data is opened instead.
     void SelectionPicked(TKSLSet<TKSLItemType> texts);
-    /// Hides the first selected item and has the host open it in its text editor.
-    void EditSelText();
     void ResetMultiDragState();
     /// A step of the drag; false when nothing moved. `DragRadius` and `DragShape` take the pointer's place.
     bool Drag(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY, bool refLines);

@@ -6,6 +6,8 @@
 #include <vagrel/editor/TIntersectThread.h>
 #include <vagrel/platform/MainThreadQueue.h>
 
+#include <system_error>
+
 namespace vagrel {
 
 namespace {
@@ -27,9 +29,13 @@ void TVGRBaseLabel::CheckIntersetions() {
         fIntersect->Clear();
         return;
     }
+    try {
+        fThread = std::make_unique<TIntersectThread>(fIntersect, std::move(figures), [this] { ThreadFinished(); });
+    } catch (const std::system_error&) {
+        return; // no thread to be had: the crossings wait for the next edit
+    }
     fComputActive = true;
     fTerminando = false;
-    fThread = std::make_unique<TIntersectThread>(fIntersect, std::move(figures), [this] { ThreadFinished(); });
 }
 
 void TVGRBaseLabel::ThreadFinished() {

@@ -190,6 +190,8 @@ void TVGRBaseLabel::FillLinkList() {
 }
 
 void TVGRBaseLabel::EditSelText() {
+    if (fSelection.empty())
+        return;
     TVGRBaseItem* text = fSelection[0];
     const TKSLayerOpts options = text->GetOptions();
     text->SetOptions(options - TKSLayerOpts{lopVisible});

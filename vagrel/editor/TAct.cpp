@@ -2,7 +2,11 @@
 // The running editor action.
 #include <vagrel/editor/TAct.h>
 
+#include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/Utils.h>
 #include <vagrel/messages/TVGRMsg.h>
+
+#include <algorithm>
 
 namespace vagrel {
 
@@ -22,6 +26,16 @@ TKSLSInfo TAct::Reset() {
     return GetInfo();
 }
 
+TKSLSInfo TAct::ResetPoly() {
+    TState& act = Current();
+    act.fCurAction = eaSelection;
+    act.fCurState = edPickPoint;
+    act.fDrawType = dtNone;
+    act.fPos2 = 0;
+    act.fPoints.clear();
+    return GetInfo();
+}
+
 TKSLSInfo TAct::SetCurAction(TKSLEdAction action) {
     TState& act = Current();
     if (act.fCurAction != action) {
@@ -29,6 +43,23 @@ TKSLSInfo TAct::SetCurAction(TKSLEdAction action) {
         act.fDrawType = dtNone;
         act.fPoints.clear();
     }
+    SelFirstState();
+    return GetInfo();
+}
+
+TKSLSInfo TAct::SetLastAction() {
+    constexpr TKSLEdActions chains{eaPolyline, eaPolygon, eaBezier};
+    TState& act = Current();
+    if (chains.Has(act.fCurAction) && act.fCurState != edPickFirst) {
+        act.fCurState = edEnd;
+        act.fCurEditor = seSelect;
+        return GetInfo();
+    }
+    if (act.fCurLastAction == act.fCurAction)
+        act.fCurAction = eaSelection;
+    else if (act.fCurLastAction != eaNone)
+        act.fCurAction = act.fCurLastAction;
+    act.fPoints.clear();
     SelFirstState();
     return GetInfo();
 }
@@ -55,6 +86,37 @@ TKSLSInfo TAct::SetMove(TKSLMoveType type, std::int16_t pos) {
 void TAct::SetActionState(TKSLEdAction action, TKSLEdState state) {
     Current().fCurAction = action;
     Current().fCurState = state;
+}
+
+TKSLSInfo TAct::SetState(TKSLEdState state) {
+    Current().fCurState = state;
+    return GetInfo();
+}
+
+TKSLBPoint TAct::Pick(int index) {
+    return index >= 0 && index < NumPoints() ? Current().fPoints[std::size_t(index)] : TKSLBPoint();
+}
+
+std::int64_t TAct::Distance(int index1, int index2) {
+    const TKSLBPoint a = Pick(index1), b = Pick(index2);
+    const bool sameX = SamePoint(float(a.X), float(b.X)), sameY = SamePoint(float(a.Y), float(b.Y));
+    return vagrel::Distance(a.X, a.Y, sameX ? a.X : b.X, sameY ? a.Y : b.Y);
+}
+
+void TAct::NormalizePoints() {
+    std::vector<TKSLBPoint>& points = Current().fPoints;
+    if (points.size() < 2)
+        return;
+    if (points[0].X > points[1].X)
+        std::swap(points[0].X, points[1].X);
+    if (points[0].Y > points[1].Y)
+        std::swap(points[0].Y, points[1].Y);
+}
+
+void TAct::OrderPointsArc() {
+    std::vector<TKSLBPoint>& points = Current().fPoints;
+    std::ranges::stable_sort(points.begin(), points.begin() + std::min<std::ptrdiff_t>(3, NumPoints()), {},
+                             &TKSLBPoint::X);
 }
 
 TKSLActPto TAct::Slot(int slot) { return slot >= 1 && slot <= 3 ? Current().fP[std::size_t(slot - 1)] : TKSLActPto(); }

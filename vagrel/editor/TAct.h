@@ -9,25 +9,74 @@
 namespace vagrel {
 
 /// State of the running action, shared by all documents of the process. Main thread. What changes the action answers
-/// the status texts. The transitions of picks join with the drawing tools.
+/// the status texts. Points are picks in base units, from 0.
 class TAct {
 public:
     static TKSLEdAction GetAction() { return Current().fCurAction; }
+    static TKSLEdAction GetLastAction() { return Current().fCurLastAction; }
     static TKSLEdState GetState() { return Current().fCurState; }
     static TKSLStEditor GetEditor() { return Current().fCurEditor; }
     static TKSLDrawType GetDrawType() { return Current().fDrawType; }
     static TKSLMoveType GetMoveType() { return Current().fMoveType; }
-    /// In eaMove the handle or vertex that moves, from 1.
+    static TKSLFlowType GetFlowType() { return Current().fCurFlowType; }
+    static TKSLinkType GetLinkType() { return Current().fCurLinkType; }
+    /// In eaMove the handle or vertex that moves, from 1; in the link actions the anchor at the start.
     static int GetPos1() { return Current().fPos1; }
+    static int GetPos2() { return Current().fPos2; }
+    /// In the link actions the items at the start and at the end.
+    static std::int32_t GetID1() { return Current().fID1; }
+    static std::int32_t GetID2() { return Current().fID2; }
+    /// A text that the action carries for the host.
+    static const std::u16string& GetText() { return Current().fText; }
+    static void SetText(std::u16string_view text) { Current().fText = text; }
+    static void SetFlowType(TKSLFlowType type) { Current().fCurFlowType = type; }
+    static void SetLinkType(TKSLinkType type) { Current().fCurLinkType = type; }
+
+    // Steps
+
+    /// Keeps a pick and steps; one that the action does not wait for is kept all the same.
+    static TKSLSInfo AddPoint(std::int64_t bx, std::int64_t by);
+    /// The same for hosts that also know the place on the screen, which is not kept.
+    static TKSLSInfo AddPointInt(std::int64_t bx, std::int64_t by, std::int32_t, std::int32_t) {
+        return AddPoint(bx, by);
+    }
+    static TKSLSInfo AddPointSin(std::int64_t bx, std::int64_t by, float, float) { return AddPoint(bx, by); }
+    /// Steps the link actions: an item and its anchor.
+    static TKSLSInfo AddLink(std::int32_t id, std::int16_t pos);
+    /// Steps without a pick; `close` ends the choice of references.
+    static TKSLSInfo NextStep(bool close);
+
+    // Changes of the action
 
     /// Back to selection with nothing collected; the last tool stays remembered.
     static TKSLSInfo Reset();
+    /// The same after a vertex was moved, which stays known.
+    static TKSLSInfo ResetPoly();
+    static void ResetPos() { Current().fPos1 = Current().fPos2 = 0; }
     /// Begins an action at its first state. Picks of another action are dropped.
     static TKSLSInfo SetCurAction(TKSLEdAction action);
+    /// Leaves the action: closes off a chain of points, else goes from the last tool to selection and back.
+    static TKSLSInfo SetLastAction();
     /// Opens a drag of `type`; `pos` is the handle or vertex, from 1.
     static TKSLSInfo SetMove(TKSLMoveType type, std::int16_t pos);
     /// Sets action and state without further effect.
     static void SetActionState(TKSLEdAction action, TKSLEdState state);
+    static TKSLSInfo SetState(TKSLEdState state);
+    static void SetStateEditor(TKSLStEditor editor) { Current().fCurEditor = editor; }
+    /// Puts the machine into the first state of its action.
+    static void SelFirstState();
+
+    // Picks. One that does not exist reads 0.
+
+    static int NumPoints() { return int(Current().fPoints.size()); }
+    static std::int64_t GetPointX(int index) { return Pick(index).X; }
+    static std::int64_t GetPointY(int index) { return Pick(index).Y; }
+    /// Coordinates that are equal in single precision count as equal.
+    static std::int64_t Distance(int index1, int index2);
+    /// Makes pick 0 the top left and pick 1 the bottom right one.
+    static void NormalizePoints();
+    /// The first three picks from left to right.
+    static void OrderPointsArc();
 
     // Three data slots, 1 to 3. Any other index stores nothing and reads 0.
 
@@ -64,8 +113,9 @@ private:
     };
     static TState& Current();
     static TKSLActPto Slot(int slot);
-    /// Puts the machine into the first state of its action.
-    static void SelFirstState();
+    static TKSLBPoint Pick(int index);
+    /// Each a value of its enumeration, or -1 for what stays.
+    static void Enter(int state, int draw, int editor);
     /// The caption of the action and the prompt of the state.
     static TKSLSInfo GetInfo();
 };

@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
-// What each action begins with, and what the status line says of actions and states.
+// What each action begins with, how it steps, and what the status line says of actions and states.
 #include <vagrel/editor/TAct.h>
 
+#include <vagrel/foundation/Rounding.h>
 #include <vagrel/messages/TVGRMsg.h>
 
+#include <algorithm>
 #include <iterator>
 
 namespace vagrel {
 
 namespace {
 
-// "Stay" entries leave what the action before had set.
+// "Stay" entries leave what was set before.
 constexpr auto Stay = -1;
 
 struct TFirst {
@@ -101,21 +103,174 @@ constexpr const char16_t* Prompts[] = {u"SelPoint",
                                        u"SelCircle"};
 static_assert(std::size(Prompts) == edPickCircle + 1);
 
+// Steps. Of the rows with the action and its state the first one counts; without one the state stays.
+
+constexpr auto AnyState = -1;
+constexpr auto ByFlowType = -2; ///< the outline of the shape
+
+struct TStep {
+    TKSLEdActions actions;
+    int from;
+    int to;
+    int draw = Stay;
+    int editor = Stay;
+    bool normalize = false; ///< makes the first two picks the corners of a box
+};
+
+constexpr TKSLEdActions Places{eaPoint, eaSymbol, eaPolyText, eaBarcode, eaPDF417, eaDataMatrix, eaQRCode};
+constexpr TKSLEdActions Lines{eaLine, eaArrowLine};
+constexpr TKSLEdActions Boxes{eaRectangle, eaParagraph, eaRichText, eaImage, eaTable, eaRank, eaNutriScore, eaPackage};
+constexpr TKSLEdActions Diameters{eaCircle2P, eaSector2P};
+constexpr TKSLEdActions Rims{eaArc, eaCircle3P, eaSector3P};
+constexpr TKSLEdActions Radii{eaCirclePR, eaLevel, eaSectorPR};
+constexpr TKSLEdActions Chains{eaPolyline, eaPolygon, eaBezier};
+
+constexpr TStep Picks[] = {
+    {{eaSelection}, edPickPoint, edSelectDrag, dtSelRect},
+    {{eaSelection}, edSelectDrag, edPickPoint, dtNone},
+    {Places, edPickPoint, edEnd},
+    {{eaText}, edPickPoint, edEnd, dtText},
+    {{eaText}, edEnd, edEnd, dtNone},
+    {Lines, edPickFirst, edPickSecond, dtLine},
+    {Lines, edPickSecond, edEnd, dtNone},
+    {Boxes, edPickFirst, edPickSecond, dtRect},
+    {Diameters, edPickFirst, edPickSecond, dtCircle2P},
+    {{eaFlow}, edPickFirst, edPickSecond, ByFlowType},
+    {Boxes + Diameters + TKSLEdActions{eaFlow}, edPickSecond, edEnd, dtNone, Stay, true},
+    {Chains, edPickFirst, edPickNext, dtLine},
+    {Chains, AnyState, Stay, dtLine},
+    {Rims, edPickFirst, edPickSecond, dtCircle2P},
+    {{eaArc}, edPickSecond, edPickThird, dtArc3P},
+    {{eaCircle3P, eaSector3P}, edPickSecond, edPickThird, dtCircle3P},
+    {Rims, edPickThird, edEnd, dtNone},
+    {Radii, edPickCenter, edPickRadio, dtCircle},
+    {Radii, edPickRadio, edEnd, dtNone},
+    {{eaEllipse}, edPickCenter, edPickRadioX, dtEllipse},
+    {{eaEllipse}, edPickRadioX, edPickRadioY, dtEllipse},
+    {{eaEllipse}, edPickRadioY, edEnd, dtNone},
+    {{eaDim}, edPickFirst, edPickSecond, dtLine},
+    {{eaDim}, edPickSecond, edPickSide, dtNone},
+    {{eaDim}, edPickSide, edEnd},
+    {{eaDimAng}, edFirstRef, edSecondRef, dtNone},
+    {{eaDimAng}, edSecondRef, edPickSide, dtNone},
+    {{eaDimAng}, edPickSide, edEnd, dtNone},
+    {{eaDimRad1}, edPickCircle, edEnd, dtDimRad1},
+    {{eaDimRad2}, edPickCircle, edEnd, dtDimRad2},
+    {{eaDimDia1}, edPickCircle, edEnd, dtDimDia1},
+    {{eaDimDia2}, edPickCircle, edEnd, dtDimDia2},
+    {{eaJoin}, edFirstRef, edSecondRef},
+    {{eaJoin}, edSecondRef, edEnd},
+    {{eaEquidist}, edPick1Distance, edPick2Distance, dtLine, seDraw},
+    {{eaEquidist}, edPick2Distance, edPickSide, dtNone},
+};
+
+// In the order of the flow types.
+constexpr TKSLDrawType FlowOutlines[] = {dtTerminator, dtRect,        dtDocument, dtDocument, dtDiamond,
+                                         dtData,       dtRect,        dtRect,     dtRect,     dtRect,
+                                         dtHexagon,    dtFlowEllipse, dtStart,    dtStep,     dtEnd};
+static_assert(std::size(FlowOutlines) == ftEnd + 1);
+
+constexpr TStep FirstEnds[] = {
+    {{eaLink}, edPickFirst, edPickSecond},
+    {{eaPolyLink}, edPickFirst, edPickNext, dtPolyLink},
+};
+constexpr TStep SecondEnds[] = {
+    {{eaLink}, edPickSecond, edEnd, dtNone},
+    {{eaPolyLink}, edEnd, edEnd, dtNone},
+};
+
+// Without a pick.
+constexpr TStep NextSteps[] = {
+    {{eaText}, edEnd, edEditing, dtText, seDraw},
+    {{eaTrim, eaExtend}, edPickRef, edPickNextRef},
+    {{eaEquidist}, edPickRef, edPick1Distance},
+};
+constexpr TStep Closings[] = {
+    {{eaTrim}, edPickNextRef, edTrim},
+    {{eaExtend}, edPickNextRef, edExtend},
+};
+
+template <std::size_t Count>
+const TStep* Find(const TStep (&steps)[Count]) {
+    const auto step = std::ranges::find_if(steps, [](const TStep& each) {
+        return each.actions.Has(TAct::GetAction()) && (each.from == AnyState || each.from == TAct::GetState());
+    });
+    return step == std::end(steps) ? nullptr : step;
+}
+
+TKSLBPoint Place(std::int64_t x, std::int64_t y) {
+    TKSLBPoint place;
+    place.X = x, place.Y = y;
+    return place;
+}
+
+std::int64_t Third(std::int64_t from, std::int64_t to) {
+    // Thirds have no ties.
+    const TInt128 sum = TInt128(from) * 2 + to;
+    return std::int64_t((sum + (sum < 0 ? -1 : 1)) / 3);
+}
+
 std::u16string TextOf(std::u16string_view key) { return key.empty() ? u"" : TVGRMsg::GetActionsValue(key); }
 
 } // namespace
 
-void TAct::SelFirstState() {
+void TAct::Enter(int state, int draw, int editor) {
     TState& act = Current();
-    const TFirst& first = Actions[act.fCurAction];
+    if (state != Stay)
+        act.fCurState = TKSLEdState(state);
+    if (draw != Stay)
+        act.fDrawType = TKSLDrawType(draw);
+    if (editor != Stay)
+        act.fCurEditor = TKSLStEditor(editor);
+}
+
+void TAct::SelFirstState() {
+    const TFirst& first = Actions[GetAction()];
     if (first.remembered)
-        act.fCurLastAction = act.fCurAction;
-    if (first.state != Stay)
-        act.fCurState = TKSLEdState(first.state);
-    if (first.editor != Stay)
-        act.fCurEditor = TKSLStEditor(first.editor);
-    if (first.draw != Stay)
-        act.fDrawType = TKSLDrawType(first.draw);
+        Current().fCurLastAction = GetAction();
+    Enter(first.state, first.draw, first.editor);
+}
+
+TKSLSInfo TAct::AddPoint(std::int64_t bx, std::int64_t by) {
+    TState& act = Current();
+    if (act.fCurState == edPickPoint)
+        act.fPoints.clear();
+    if (act.fCurAction == eaBezier && act.fCurState == edPickNext && !act.fPoints.empty()) {
+        const TKSLBPoint last = act.fPoints.back();
+        act.fPoints.push_back(Place(Third(last.X, bx), Third(last.Y, by)));
+        act.fPoints.push_back(Place(Third(bx, last.X), Third(by, last.Y)));
+    }
+    act.fPoints.push_back(Place(bx, by));
+    if (const TStep* step = Find(Picks)) {
+        if (step->normalize)
+            NormalizePoints();
+        Enter(step->to, step->draw == ByFlowType ? FlowOutlines[act.fCurFlowType] : step->draw, step->editor);
+    }
+    return GetInfo();
+}
+
+TKSLSInfo TAct::AddLink(std::int32_t id, std::int16_t pos) {
+    TState& act = Current();
+    const TStep* step;
+    if ((step = Find(FirstEnds)))
+        act.fID1 = id, act.fPos1 = pos;
+    else if ((step = Find(SecondEnds)))
+        act.fID2 = id, act.fPos2 = pos;
+    if (step)
+        Enter(step->to, step->draw, step->editor);
+    return GetInfo();
+}
+
+TKSLSInfo TAct::NextStep(bool close) {
+    const TStep* step = Find(NextSteps);
+    if (!step && close)
+        step = Find(Closings);
+    if (step) {
+        if (GetAction() == eaText)
+            Current().fCurAction = eaEdText;
+        Enter(step->to, step->draw, step->editor);
+    }
+    return GetInfo();
 }
 
 TKSLSInfo TAct::GetInfo() { return {TextOf(Actions[GetAction()].caption), TextOf(Prompts[GetState()])}; }

@@ -4,6 +4,7 @@
 
 #include <vagrel/platform/MainThreadQueue.h>
 
+#include <new>
 #include <utility>
 
 namespace vagrel {
@@ -62,9 +63,13 @@ struct TIntersectThread::TRun {
     std::atomic<bool> ended = false;
 
     void Execute() {
-        std::vector<TIntSecPoint> fresh;
-        if (!terminated && AllCrossings(figures, terminated, fresh))
-            target->Publish(fresh, terminated);
+        try {
+            std::vector<TIntSecPoint> fresh;
+            if (!terminated && AllCrossings(figures, terminated, fresh))
+                target->Publish(fresh, terminated);
+        } catch (const std::bad_alloc&) {
+            // More crossings than memory: those that were published before stay.
+        }
         ended = true;
     }
 };

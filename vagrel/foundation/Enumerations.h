@@ -701,6 +701,7 @@ using TKSLAlignTypes = TKSLSet<TKSLAlignType>;
 using TKSLInpectorBaseTypes = TKSLSet<TKSLInsTypeBase>;
 using TKSLInpectorTypes = TKSLSet<TKSLInsType>;
 using TShiftState = TKSLSet<TShift>;
+using TKSLEdActions = TKSLSet<TKSLEdAction, std::uint64_t>;
 using TKSLMapProviders = TKSLSet<TKSLMapProvider>;
 
 /// The name of an item type, as "Line"; "None" for a value that is no type.

@@ -7,8 +7,8 @@
 
 namespace vagrel {
 
-/// A set of values of the enumeration `E`, each at the bit of its position; positions 0 to 31.
-template <class E>
+/// A set of values of the enumeration `E`, each at the bit of its position; positions 0 to 31, or to 63 in 64 bits.
+template <class E, class TBits = std::uint32_t>
 class TKSLSet {
 public:
     constexpr TKSLSet() = default;
@@ -16,7 +16,7 @@ public:
         for (E value : values)
             fBits |= Bit(value);
     }
-    static constexpr TKSLSet FromBits(std::uint32_t bits) {
+    static constexpr TKSLSet FromBits(TBits bits) {
         TKSLSet set;
         set.fBits = bits;
         return set;
@@ -26,7 +26,7 @@ public:
         return FromBits(((Bit(last) - 1) | Bit(last)) & ~(Bit(first) - 1));
     }
 
-    constexpr std::uint32_t Bits() const { return fBits; }
+    constexpr TBits Bits() const { return fBits; }
     constexpr bool Empty() const { return fBits == 0; }
     constexpr bool Has(E value) const { return (fBits & Bit(value)) != 0; }
     constexpr bool HasAny(TKSLSet other) const { return (fBits & other.fBits) != 0; }
@@ -45,11 +45,11 @@ public:
 
 private:
     // Files may hold integers that are no value of the enumeration: those are in no set.
-    static constexpr std::uint32_t Bit(E value) {
-        return std::uint32_t(value) < 32 ? std::uint32_t(1) << std::uint32_t(value) : 0;
+    static constexpr TBits Bit(E value) {
+        return std::uint32_t(value) < 8 * sizeof(TBits) ? TBits(1) << std::uint32_t(value) : 0;
     }
 
-    std::uint32_t fBits = 0;
+    TBits fBits = 0;
 };
 
 } // namespace vagrel
