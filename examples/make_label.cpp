@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Makes a label to be filled from a product list: bound texts, a rotated one, a counter, a sheet of 3 by 8 labels on
-// A4. Writes it as a JSON document and as a picture.
+// Makes a label to be filled from a product list: bound texts, a rotated one, a counter, an EAN-13, a QR Code with a
+// link, a sheet of 3 by 8 labels on A4. Writes it as a JSON document and as a picture.
 //
 //     example_make_label FILE.json FILE.png
 #include <host/HostLabel.h>
 #include <host/PageWriter.h>
+#include <vagrel/barcode/TVGRBaseBarcode.h>
+#include <vagrel/barcode/TVGRBaseQRCode.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/items/figures/TVGRBaseRectangle.h>
@@ -64,13 +66,42 @@ TVGRBaseText& Text(HostLabel& label, double x, double y, const TLook& look) {
     return text;
 }
 
+// Both codes have the quiet zones that their readers ask for, 11 and 4 modules. Their own text is a sample, which the
+// record's replaces.
+
+void Ean(HostLabel& label, double x, double y) {
+    auto& ean = dynamic_cast<TVGRBaseBarcode&>(label.CreateBarcode(Mm(x), Mm(y), u"4006381333931", btEAN13));
+    ean.SetBarWidth(0.33f);
+    ean.SetBarHeight(9);
+    ean.SetPaddingX(11 * 0.33f);
+    ean.SetFontName(u"Liberation Sans");
+    ean.SetFontHeight(2.8f);
+    ean.SetColor(Ink);
+    ean.SetData(ftJson, u"EAN", u"");
+}
+
+void Link(HostLabel& label, double right, double bottom) {
+    constexpr float module = 0.48f, quiet = 4 * module;
+    auto& link = dynamic_cast<TVGRBaseQRCode&>(
+        label.CreateQRCode(Mm(right + quiet), Mm(bottom + quiet), u"https://example.org/p/TEE-0001"));
+    link.SetBarWidth(module);
+    link.SetBarHeight(module);
+    link.SetPaddingX(quiet);
+    link.SetPaddingY(quiet);
+    link.SetHorzAlign(haRight);
+    link.SetVertAlign(vaBottom);
+    link.SetFilled(false); // the quiet zone reaches into a round corner of the paper
+    link.SetColor(Ink);
+    link.SetData(ftJson, u"Link", u"");
+}
+
 void Draw(HostLabel& label) {
     SetSheet(label.GetMeasure());
     auto& number = *new TVGRCounter(label); // the document owns it
     number.SetName(u"Number");
     number.SetBefore(u"No. ");
     number.SetFormat(u"0000");
-    number.SetNumTo(9999);
+    number.SetNumTo(528); // the products of the list; a merge prints as many labels as its longest source asks for
 
     const UpdateScope drawing(label);
     Box(label, 1.5, 1.5, 67, 34, 2, Paper);
@@ -82,8 +113,9 @@ void Draw(HostLabel& label) {
     Text(label, 9.5, 8.5, {2.8f, Soft, false, true}).SetData(ftJson, u"Maker", u"");
     Text(label, 9.5, 13, {3.2f}).SetData(ftJson, u"Size", u"");
     Text(label, 66, 12, {7, Ink, true, false, haRight}).SetData(ftJson, u"Price", u"0.00 \"€\"");
-    Text(label, 9.5, 33.5, {2.6f, Ink, false, false, haLeft, vaBottom}).SetData(ftJson, u"EAN", u"");
-    Text(label, 66, 33.5, {2.6f, Soft, false, false, haRight, vaBottom}).SetData(ftCounter, u"Number", u"");
+    Text(label, 66, 8.7, {2.6f, Soft, false, false, haRight}).SetData(ftCounter, u"Number", u"");
+    Ean(label, 8.4, 21);
+    Link(label, 66, 33.3);
 }
 
 } // namespace

@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 // Any lines as a session: each is played or refused, and the document still writes itself and goes back.
-#include <host/HostLabel.h>
 #include <host/Session.h>
+#include <tests/support/TestHost.h>
 #include <vagrel/editor/TAct.h>
 #include <vagrel/foundation/Exceptions.h>
 
 using namespace vagrel;
 
+// The fonts of the machine have no part in this.
+static const test::FixedTextMeasurer Measurer;
+
 extern "C" int LLVMFuzzerTestOneInput(const char* data, std::size_t size) {
     TAct::ResetForTests();
-    HostLabel label;
+    HostLabel label(nullptr, Measurer);
     Session session(label);
     std::string_view text(data, size);
     while (!text.empty()) {

@@ -10,6 +10,11 @@
 #include <cstring>
 #include <iostream>
 
+#ifdef __has_feature
+#if __has_feature(address_sanitizer)
+#define __SANITIZE_ADDRESS__
+#endif
+#endif
 #ifdef __SANITIZE_ADDRESS__
 // Fontconfig keeps what it has found for the life of the process.
 extern "C" {

@@ -5,7 +5,6 @@
 #include <host/HostLabel.h>
 #include <host/ItemRegistry.h>
 #include <host/PageWriter.h>
-#include <vagrel/barcode/TPDF417.h>
 #include <vagrel/barcode/TVGRBaseBarcode.h>
 #include <vagrel/barcode/TVGRBaseMatrixCode.h>
 #include <vagrel/document/TVGRMeasure.h>
@@ -20,6 +19,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <cmath>
 
 namespace vagrel::cli {
@@ -105,15 +105,17 @@ void Shape(TVGRBaseCode& code, const TArguments& arguments) {
     code.SetCode(FromUtf8(arguments.text));
 }
 
+std::string Named(char16_t unit) {
+    const bool plain = unit > u' ' && unit != 0x7F && (unit < 0xD800 || unit > 0xDFFF);
+    return plain ? "\"" + ToUtf8(std::u16string(1, unit)) + "\"" : "the character " + std::to_string(int(unit));
+}
+
 // Why a linear kind does not take a text.
 std::string Reason(const std::u16string& text, TKSLBarType type, bool check) {
     for (const char16_t unit : text) {
         // One character is never too long where lengths are checked with the check digit to come.
-        if (unit > 0xFF || !TBarcode::IsValidCode(std::string(1, char(unit)), type, true, false)) {
-            const bool plain = unit > u' ' && unit != 0x7F && (unit < 0xD800 || unit > 0xDFFF);
-            return "does not take " + (plain ? "\"" + ToUtf8(std::u16string(1, unit)) + "\""
-                                             : "the character " + std::to_string(int(unit)));
-        }
+        if (unit > 0xFF || !TBarcode::IsValidCode(std::string(1, char(unit)), type, true, false))
+            return "does not take " + Named(unit);
     }
     std::size_t length = 1;
     while (length < 100 && !TBarcode::IsValidCode(std::string(length, '0'), type, false, false))
@@ -131,15 +133,18 @@ void CheckSymbol(const TVGRBaseCode& code, const TArguments& arguments) {
             throw EVagrel(NameOf(arguments.type) + " cannot hold this mix of characters");
         return;
     }
-    if (arguments.type == DataMatrix)
-        for (const char16_t unit : FromUtf8(arguments.text))
-            if (unit > 0xFF)
-                throw EVagrel("DATAMATRIX does not take \"" + ToUtf8(std::u16string(1, unit)) +
-                              "\": its text is ISO 8859-1");
+    // What these two would replace or drop.
+    const bool pdf = arguments.type == Pdf417;
+    const std::u16string text = FromUtf8(arguments.text);
+    const auto lacking =
+        std::ranges::find_if(text, [&](char16_t unit) { return pdf ? unit < u' ' || unit > u'~' : unit > 0xFF; });
+    if (arguments.type != QR && lacking != text.end())
+        throw EVagrel(NameOf(arguments.type) + " does not take " + Named(*lacking) + ": its text is " +
+                      (pdf ? "ASCII without control characters" : "ISO 8859-1"));
     if (!code.IsValid())
-        throw EVagrel(NameOf(arguments.type) + (arguments.type == Pdf417 && TPDF417::GetValid(code.GetCode()).empty()
-                                                    ? " takes the characters from space to ~, and there is none"
-                                                    : " cannot hold this text: it is too long"));
+        throw EVagrel(NameOf(arguments.type) + (text.empty() ? " needs a text"
+                                                : pdf        ? " cannot hold this text: too long, or a word above 928"
+                                                             : " cannot hold this text: it is too long"));
 }
 
 void Describe(const TVGRBaseCode& code, const TArguments& arguments) {

@@ -5,6 +5,7 @@
 
 #include <host/HostLabel.h>
 #include <host/PageWriter.h>
+#include <vagrel/barcode/TVGRBaseCode.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRBasePrintInfo.h>
 #include <vagrel/document/TVGRMeasure.h>
@@ -108,6 +109,21 @@ void CheckFields(const HostLabel& label) {
     }
 }
 
+// A symbol of another text than its record's is worse than none, and a QR Code keeps the one that it had. A record may
+// leave a code empty.
+void CheckCodes(const HostLabel& label) {
+    const std::vector<TSheetCell> cells = label.GetPrintInfo().Cells();
+    for (const auto& copy : label.Preview()) {
+        const auto* code = dynamic_cast<const TVGRBaseCode*>(copy.get());
+        if (!code || code->IsValid() || code->GetCode().empty())
+            continue;
+        const bool printed = std::ranges::any_of(
+            cells, [&](const TSheetCell& cell) { return cell.row == code->GetRow() && cell.column == code->GetCol(); });
+        if (printed)
+            throw EVagrel("\"" + ToUtf8(code->GetID()) + "\" has no symbol for \"" + ToUtf8(code->GetCode()) + "\"");
+    }
+}
+
 void Answer(TKSAskField& question, const std::u16string& answer) {
     const auto number = TryStrToFloat(answer);
     const auto refuse = [&](const char* kind) {
@@ -207,6 +223,7 @@ void Run(TMerge& arguments) {
         label.MakePreview();
         for (int page = first; page <= last; ++page) {
             label.GoToPage(page, true, false);
+            CheckCodes(label);
             pages->Add(label);
             labels += std::int64_t(info.Cells().size());
             progress.Show(page - first + 1);

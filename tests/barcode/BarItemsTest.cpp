@@ -138,8 +138,9 @@ TEST_F(BarItemsTest, BoxesFollowTheSymbol) {
     {
         const UpdateScope bracket(label);
         ean.SetFontHeight(6);
+        ean.SetDistance(2);
     }
-    EXPECT_EQ(ean.BarCodeHeight(), 16000);
+    EXPECT_EQ(ean.BarCodeHeight(), 18000) << "with the gap above the digits";
     {
         const UpdateScope bracket(label);
         ean.SetShowNumber(false);

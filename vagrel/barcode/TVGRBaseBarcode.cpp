@@ -81,6 +81,13 @@ void TVGRBaseBarcode::SetCheckSum(bool value) {
     StateCalc();
 }
 
+void TVGRBaseBarcode::SetCheckType(TKSLCheckType value) {
+    if (value == fCheckType)
+        return;
+    fCheckType = value;
+    StateModified();
+}
+
 void TVGRBaseBarcode::SetIgnoreParentheses(bool value) {
     if (value == fIgnoreParentheses)
         return;
@@ -133,13 +140,7 @@ void TVGRBaseBarcode::SetFactor(float value) {
     StoreBars(fBarWidth, fBarHeight, Limited(value, fCodeType), cmd::Factor);
 }
 
-void TVGRBaseBarcode::SetDistance(float value) {
-    const std::int32_t base = ToBase(value);
-    if (base == fDistance)
-        return;
-    fDistance = base;
-    StateUpdate();
-}
+void TVGRBaseBarcode::SetDistance(float value) { StoreChoice(fDistance, ToBase(value)); }
 
 void TVGRBaseBarcode::SetFontName(std::u16string_view value) {
     if (value == fFontName)

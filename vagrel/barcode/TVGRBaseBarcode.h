@@ -9,7 +9,9 @@ namespace vagrel {
 
 /// What a host measured of the font of the digits, base units on paper. As it stands it is that of a font of 3 mm.
 struct TDigitMeasure {
-    std::int32_t ascent = 2716, descent = 636, posUnderline = 0, lineSize = 0;
+    std::int32_t ascent = 2716;
+    std::int32_t descent = 636; ///< and the gap above the digits, which the box has no other place for
+    std::int32_t posUnderline = 0, lineSize = 0;
     double ratio = 1; ///< drawn font height to nominal font height
 };
 
@@ -40,7 +42,7 @@ public:
     void SetCheckSum(bool value);
     /// Kept for the host: the symbology tells which check digits it has.
     TKSLCheckType GetCheckType() const { return fCheckType; }
-    void SetCheckType(TKSLCheckType value) { fCheckType = value; }
+    void SetCheckType(TKSLCheckType value);
     /// Leaves "(" and ")" out of the data of Code 128.
     bool GetIgnoreParentheses() const { return fIgnoreParentheses; }
     void SetIgnoreParentheses(bool value);
@@ -76,6 +78,7 @@ public:
     void SetShowNumber(bool value) { StoreChoice(fShowNumber, value); }
     /// The gap between bars and digits.
     float GetDistance() const { return ToUnit(fDistance); }
+    std::int32_t BaseDistance() const { return fDistance; }
     void SetDistance(float value);
     std::u16string GetFontName() const override { return fFontName; }
     void SetFontName(std::u16string_view value);

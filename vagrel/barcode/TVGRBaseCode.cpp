@@ -83,10 +83,9 @@ void TVGRBaseCode::StoreLimited(std::int64_t width, std::int64_t height, std::in
 // Place
 
 void TVGRBaseCode::SetAngle(TKSLAngle value) {
-    if (value == fAngle)
-        return;
-    TVGR2DItem::SetAngle(value);
-    UpdateBounds();
+    if (value != fAngle)
+        TVGREnumValueCmd::AddCommand(*this, cmd::Angle);
+    StorePlace(fAngle, value);
 }
 
 void TVGRBaseCode::RotateLeft() {
