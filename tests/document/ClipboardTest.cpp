@@ -118,7 +118,11 @@ TEST_F(Clipboard, AnEmptyOneLeavesEverything) {
     label.CopySelection();
     label.ClearSelection(false);
     label.CopySelection(); // of nothing
-    label.PasteSelection();
+    for (const bool modified : {false, true}) {
+        label.SetModified(modified);
+        label.PasteSelection();
+        EXPECT_EQ(label.GetModified(), modified);
+    }
     EXPECT_EQ(label.ItemsCount(), 3);
 }
 

@@ -168,6 +168,15 @@ TEST_F(Undo, CommandsFollowAnItemThatIsMadeAnew) {
     }
 }
 
+TEST_F(Undo, TheNumberOfAnItemThatIsMadeAnewIsTaken) {
+    const std::int32_t id = box.GetInID();
+    label.DeleteItem(box, false);
+    label.Clear({cleItems}, false); // numbers begin anew, the commands stay
+    label.Undo();
+    ASSERT_TRUE(label.SearchItem(id, false));
+    EXPECT_NE(label.CreatePoint(1, 1).GetInID(), id);
+}
+
 TEST_F(Undo, ARedoneDeletionOfManyIsManySteps) {
     label.Clear({cleUndoRedo}, false);
     {

@@ -218,6 +218,12 @@ TEST_F(Drag, RadiiStayOnThePage) {
     PointAt(49000, 28000);
     EXPECT_EQ(Steps(), 1);
     EXPECT_EQ(circle.BoundsRect(), (TKSLRect{45000, 23000, 55000, 33000}));
+    PointAt(45000, 28000);
+    EXPECT_EQ(Steps(), 0) << "as large as before";
+
+    Select({&ellipse}); // a host may take its handle for that of a circle
+    PointAt(20000, 14000);
+    EXPECT_EQ(ellipse.BoundsRect(), (TKSLRect{16000, 6000, 24000, 14000}));
     Select({&box});
     Told();
     PointAt(20000, 28000);

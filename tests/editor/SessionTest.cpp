@@ -358,6 +358,15 @@ TEST_F(Sessions, AMovedTextIsOpenedAgain) {
          "\n"
          R"({"op":"UpEditor","x":0,"y":0})");
     EXPECT_EQ(Where(), "eaText edPickPoint");
+
+    // The text of a record is not written by hand, also while there are no records.
+    TVGRBaseItem& text = *label.GetItem(1);
+    Query<IKSLData>(&text)->SetData(ftJson, u"name", u"");
+    label.SetSelection(&text, isSelected);
+    Play(R"({"op":"SetMove","type":"mtText"}
+            {"op":"SetAction","action":"eaMoveText"}
+            {"op":"UpEditor","x":0,"y":0})");
+    EXPECT_EQ(TAct::GetAction(), eaMoveText);
 }
 
 // The right button

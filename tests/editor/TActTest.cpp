@@ -2,10 +2,13 @@
 // The running action: what each tool waits for, pick by pick, and how it is left.
 #include <host/EnumNames.h>
 #include <vagrel/editor/TAct.h>
+#include <vagrel/foundation/Text.h>
 #include <vagrel/messages/TVGRMsg.h>
+#include <vagrel/platform/Files.h>
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <sstream>
 
 namespace vagrel::test {
@@ -272,6 +275,19 @@ TEST_F(Act, TellsCaptionsAndPrompts) {
         {mtArc, u"Point"},    {mtPolyPoint, u"Point"}, {mtLinkCurve, u""},   {mtDispWidth, u""}};
     for (const auto& [type, prompt] : moves)
         EXPECT_EQ(TAct::SetMove(type, 0).sState, *prompt ? TVGRMsg::GetActionsValue(prompt) : u"") << EnumName(type);
+}
+
+TEST_F(Act, ALanguageMayNameToolsThatHaveNoCaption) {
+    EXPECT_EQ(TAct::SetCurAction(eaFlow).aAction, u"");
+    EXPECT_EQ(TAct::SetCurAction(eaDimRad2).aAction, TVGRMsg::GetActionsValue(u"DrawDimRad"));
+    const std::string file = testing::TempDir() + "captions.lng";
+    WriteFile(file, "[Actions]\nactDrawFlow=Figur\nactDrawDimRad2=Radius\n");
+    TVGRMsg::LoadResources(FromUtf8(file));
+    std::remove(file.c_str());
+    EXPECT_EQ(TAct::SetCurAction(eaFlow).aAction, u"Figur");
+    EXPECT_EQ(TAct::SetCurAction(eaDimRad2).aAction, u"Radius");
+    EXPECT_EQ(TAct::SetCurAction(eaDimRad1).aAction, TVGRMsg::GetActionsValue(u"DrawDimRad"));
+    TVGRMsg::LoadResources(u"");
 }
 
 } // namespace

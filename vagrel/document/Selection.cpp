@@ -85,6 +85,7 @@ void TVGRBaseLabel::DeleteSelection() {
         if (OnUnSelectItem)
             OnUnSelectItem(*this, *fSelection[i]);
     }
+    fSelPoint.clear(); // each item that dies would look through all handles
     while (!fSelection.empty())
         DeleteItem(*fSelection.back(), false);
     ClearSelection(true);
@@ -111,8 +112,8 @@ void TVGRBaseLabel::CopySelection() {
 void TVGRBaseLabel::ReadClipboard(const std::function<void(std::int32_t version, TBinaryReader& reader)>& read) {
     if (fMemCopy.empty())
         return;
-    const TFinally show{[this] {
-        fModified = true;
+    const TFinally show{[this, count = fItems.size(), modified = fModified] {
+        fModified = modified || fItems.size() > count; // the end of the bracket cleared it
         FillSelPoints();
         FillLinkList();
         ChangeValue(chSelect);

@@ -105,6 +105,9 @@ void TVGRBaseLabel::Replay(const TVGRCmd& command, TReplay direction) {
 
 void TVGRBaseLabel::Revive(const TVGRCmd& deletion) {
     TVGRBaseItem& item = CreateElementFromStream(std::get<std::string>(deletion.fValue));
+    // The numbers may have begun anew since the deletion: this one is taken again.
+    if (item.GetInID() == fMaxID)
+        NextID();
     // The item takes the place of the one that was deleted: in the commands from before, and in what its construction
     // recorded just now, when it did not yet have its old number.
     std::vector<TVGRCmd>& stack = Recording();

@@ -179,10 +179,12 @@ bool TVGRBaseLabel::DragRadius(TKSLPto pointer) {
     default:
         rx = InsideHigh(InsideLow(Distance(cx, cy, pointer.bX, pointer.bY), cx), cx, width);
         rx = ry = InsideHigh(InsideLow(rx, cy), cy, height);
-        TVGRBaseValueCmd::AddCommand(*item, cmd::Radio);
     }
     // A centre off the page leaves no room.
     rx = std::max<std::int64_t>(rx, 0), ry = std::max<std::int64_t>(ry, 0);
+    const auto* round = Query<IKSLRadio>(item);
+    if (TAct::GetMoveType() == mtRadio && round && round->GetBaseRadio() != rx)
+        TVGRBaseValueCmd::AddCommand(*item, cmd::Radio);
     item->AssignPoints({{SubSat(cx, rx), SubSat(cy, ry)}, {AddSat(cx, rx), AddSat(cy, ry)}});
     FillSelPoints();
     return true;

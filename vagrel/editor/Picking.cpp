@@ -193,12 +193,17 @@ void TVGRBaseLabel::EditSelText() {
     if (fSelection.empty())
         return;
     TVGRBaseItem* text = fSelection[0];
-    const TKSLayerOpts options = text->GetOptions();
-    text->SetOptions(options - TKSLayerOpts{lopVisible});
+    auto show = [text](bool visible) {
+        TKSLayerOpts options = text->GetOptions();
+        options.Put(lopVisible, visible);
+        text->SetOptions(options);
+    };
+    const bool visible = text->GetOptions().Has(lopVisible);
+    show(false);
     const TFinally restore{[=, this] {
         // The host may have deleted it.
         if (std::ranges::any_of(fItems, [=](const auto& item) { return item.get() == text; }))
-            text->SetOptions(options);
+            show(visible);
     }};
     fInfo = TAct::SetCurAction(eaEdText);
     FireInfoEvent(true);

@@ -93,7 +93,7 @@ void TVGRBaseLabel::EndTextDrag() {
     }
     ChangeValue(chInspect);
     ChangeValue(chPropItem);
-    if (fSelection.size() == 1 && !fSelection[0]->GetIsData())
+    if (fSelection.size() == 1 && !fSelection[0]->IsBound())
         EditSelText();
 }
 

@@ -70,6 +70,7 @@ std::u16string TVGRMsg::GetDialogsValue(std::u16string_view aKey) { return Looku
 std::u16string TVGRMsg::GetEditorValue(std::u16string_view aKey) { return Lookup(u"edi", aKey); }
 std::u16string TVGRMsg::GetActionsValue(std::u16string_view aKey) { return Lookup(u"act", aKey); }
 std::u16string TVGRMsg::GetListValue(std::u16string_view aKey) { return Lookup(u"lis", aKey); }
+bool TVGRMsg::Has(std::u16string_view fullKey) { return Table().contains(fullKey); }
 
 void TVGRMsg::LoadResources(std::u16string_view aFileName) {
     TTable table = Defaults();

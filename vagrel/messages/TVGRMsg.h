@@ -22,6 +22,8 @@ public:
     static std::u16string GetEditorValue(std::u16string_view aKey);
     static std::u16string GetActionsValue(std::u16string_view aKey);
     static std::u16string GetListValue(std::u16string_view aKey);
+    /// True when the table has a full key, as "errEmptyText".
+    static bool Has(std::u16string_view fullKey);
 
     /// Resets all texts to the defaults, then takes those of a language file: INI form in UTF-8, one section for each
     /// group, lines of full key=text; keys that are new are added. Without such a file the defaults stay. Throws
