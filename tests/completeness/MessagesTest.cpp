@@ -6,6 +6,8 @@
 #include <vagrel/messages/ListNames.h>
 #include <vagrel/messages/TVGRMsg.h>
 
+#include <set>
+
 namespace vagrel::test {
 namespace {
 
@@ -21,6 +23,9 @@ constexpr TGroup Groups[] = {
     {"Prop", TVGRMsg::GetPropValue},       {"Dialogs", TVGRMsg::GetDialogsValue}, {"Editor", TVGRMsg::GetEditorValue},
     {"Actions", TVGRMsg::GetActionsValue}, {"List", TVGRMsg::GetListValue},
 };
+
+// A prefix, and captions that only a language file brings: without one the tools show that of their kind, or none.
+const std::set<std::string> NoKeys{"act", "DrawFlow", "DrawDimRad1", "DrawDimRad2", "DrawDimDia1", "DrawDimDia2"};
 
 void Expect(const std::string& group, const std::string& key, const std::filesystem::path& file) {
     for (const TGroup& row : Groups)
@@ -42,7 +47,10 @@ TEST(Completeness, EveryKeyThatIsAskedForHasAText) {
         });
         // These come from tables.
         if (file.filename() == "TAct_Tables.cpp")
-            ForEachMatch(text, literal, [&](const std::smatch& key) { Expect("Actions", key[1], file), ++keys; });
+            ForEachMatch(text, literal, [&](const std::smatch& key) {
+                if (!NoKeys.contains(key[1]))
+                    Expect("Actions", key[1], file), ++keys;
+            });
     });
     EXPECT_GT(keys, 60);
 }
