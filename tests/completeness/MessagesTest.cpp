@@ -2,6 +2,7 @@
 // The keys of texts that the sources ask for, against the table of texts.
 #include <tests/completeness/Sources.h>
 
+#include <vagrel/editor/TAct.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/messages/ListNames.h>
 #include <vagrel/messages/TVGRMsg.h>
@@ -53,6 +54,16 @@ TEST(Completeness, EveryKeyThatIsAskedForHasAText) {
             });
     });
     EXPECT_GT(keys, 60);
+}
+
+TEST(Completeness, EveryActionHasItsTexts) {
+    for (int action = eaSelection; action <= eaDimAng; ++action) {
+        const TKSLSInfo info = TAct::SetCurAction(TKSLEdAction(action));
+        EXPECT_NE(info.aAction, NotFound) << action;
+        EXPECT_NE(info.sState, NotFound) << action;
+        EXPECT_EQ(info.aAction.empty(), action == eaFlow) << action;
+    }
+    TAct::ResetForTests();
 }
 
 TEST(Completeness, EveryListNamesItsChoices) {

@@ -21,7 +21,7 @@ compilers=("$compiler")
 # Compilers have sanitizers of their own, which do not mix.
 if [ -z "$sanitizers" ]; then
     for other in g++ clang++; do
-        command -v $other >/dev/null && [[ $(basename "$compiler") != "$other"* ]] && compilers+=($other)
+        path=$(command -v $other) && [ "$(readlink -f "$path")" != "$(readlink -f "$compiler")" ] && compilers+=($other)
     done
 fi
 for each in "${compilers[@]}"; do
