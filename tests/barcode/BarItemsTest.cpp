@@ -242,52 +242,6 @@ TEST_F(BarItemsTest, TextsThatDoNotFit) {
     EXPECT_TRUE(small.DarkRects().empty());
 }
 
-TEST_F(BarItemsTest, FilesRestoreEverything) {
-    TVGRBaseBarcode& bars = Bars(u"(01)Caf\u00E9", btCODE128AUTO);
-    {
-        const UpdateScope bracket(label);
-        bars.SetIgnoreParentheses(true);
-        bars.SetCheckSum(true);
-        bars.SetShowNumber(false);
-        bars.SetCheckType(ctMod11);
-        bars.SetDistance(0.75f);
-        bars.SetFontName(u"DejaVu Sans");
-        bars.SetFontHeight(4.25f);
-        bars.SetFactor(2.25f);
-        bars.SetHorzAlign(haRight);
-        bars.SetAngle(ag270);
-        bars.SetData(ftNone, u"?question", u"0.0");
-    }
-    TVGRBaseQRCode& qr = Qr(u"12345");
-    qr.SetEncoding(ISO88591);
-    TVGRBaseDataMatrix& matrix = Matrix();
-    matrix.SetDMSize(ecc200_26x26);
-    matrix.SetDMShape(ecc200_Rectangle);
-    TVGRBasePDF417& pdf = Pdf(u"a longer text for the grid");
-    pdf.SetCorrecLevel(Level5);
-    pdf.SetTruncated(true);
-    pdf.SetCols(4);
-    for (TVGRBaseCode* code : std::initializer_list<TVGRBaseCode*>{&bars, &qr, &matrix, &pdf})
-        code->CalcValues(2);
-    qr.SetFactor(1.5f);
-    const std::string form = label.GetJson()->ToUtf8JSON(false);
-
-    TestHost fromJson, fromBinary;
-    fromJson.ReadDocument(form);
-    EXPECT_EQ(fromJson.GetJson()->ToUtf8JSON(false), form);
-    fromBinary.ReadDocument(label.ToBinary());
-    EXPECT_EQ(fromBinary.GetJson()->ToUtf8JSON(false), form);
-    const std::string svg = label.SVG(svCurrentUnit, 1, true);
-    EXPECT_EQ(fromJson.SVG(svCurrentUnit, 1, true), svg);
-    EXPECT_EQ(fromBinary.SVG(svCurrentUnit, 1, true), svg);
-    for (int i = 1; i <= label.ItemsCount(); ++i) {
-        EXPECT_EQ(fromJson.GetItem(i)->BoundsRect(), label.GetItem(i)->BoundsRect()) << i;
-        EXPECT_EQ(fromBinary.GetItem(i)->BoundsRect(), label.GetItem(i)->BoundsRect()) << i;
-    }
-    EXPECT_TRUE(fromJson.GetItem(1)->IsBound());
-    EXPECT_TRUE(fromBinary.GetItem(1)->IsBound());
-}
-
 TEST_F(BarItemsTest, ReadingKeepsTheLimits) {
     auto read = [](TVGRBaseItem& from, auto&& change) -> std::unique_ptr<TJsonObject> {
         auto json = from.WriteJson();

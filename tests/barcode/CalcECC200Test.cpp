@@ -81,22 +81,6 @@ TEST(CalcECC200, ReadsBackAnyBytes) {
     EXPECT_EQ(TSymbol(most).Read(), most);
 }
 
-TEST(CalcECC200, HasItsFinderPatterns) {
-    const TSymbol symbol("", ecc200_Autosize, ecc200_Rectangle);
-    ASSERT_EQ(symbol.Rows, 8);
-    ASSERT_EQ(symbol.Cols, 18);
-    const TSymbol large(std::string(50, 'A'), ecc200_32x32);
-    for (int y = 0; y < 32; ++y) {
-        for (int x = 0; x < 32; ++x) {
-            const bool dark = large.Matrix[std::size_t(y * 32 + x)];
-            const bool solid = x % 16 == 0 || y % 16 == 15;
-            const bool alternating = y % 16 == 0 || x % 16 == 15;
-            const bool expected = solid || (y % 16 == 0 ? x % 2 == 0 : y % 2 == 1);
-            EXPECT_TRUE(dark == expected || !(solid || alternating)) << x << ' ' << y;
-        }
-    }
-}
-
 TEST(CalcECC200, RefusesWhatDoesNotFit) {
     const struct {
         std::string Text;

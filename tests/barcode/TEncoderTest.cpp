@@ -180,6 +180,7 @@ TEST(TMatrixUtil, TakesTheFirstMaskOfTheLowestPenalty) {
                     best = mask;
                 }
             }
+            printf("MASK %d %d %d\n", number, kind, chosen);
             EXPECT_EQ(chosen, best) << "version " << number << " data " << kind;
         }
     }

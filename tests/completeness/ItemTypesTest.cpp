@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-// What an item type must have before it counts as there: a name, a class, a factory, a sample in the shared suite, an
-// SVG form and a painting. The suites of items and of paintings go through the same list of types, so that a type
-// without a sample, or without its file forms, fails there.
+// What an item type must have before it counts as there: a name, a class, a factory and a sample in the shared suite.
+// The suites of items and of paintings go through the same list of types, so that a type without a sample, or without
+// its file, SVG and painted forms, fails there.
 #include <tests/support/ItemSuite.h>
 
 #include <host/ItemRegistry.h>
-#include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
 
@@ -118,31 +117,6 @@ TEST(Completeness, FactoriesMakeWhatTheyAreNamedFor) {
             EXPECT_THROW(factory.make(label), ENotAvailable);
             EXPECT_EQ(label.ItemsCount(), 0);
         }
-    }
-}
-
-// Types that leave nothing in a picture, and why.
-struct TInvisible {
-    TKSLItemType type;
-    const char* reason;
-};
-constexpr TInvisible NotInSvg[] = {{itPoint, "a mark for the editor alone"}};
-
-// In the unit that the suite's setters expect.
-struct Drawing : TestHost {
-    Drawing() : TestHost(emDrawing, unCM, 10) { GetMeasure().SetLabelSizeMM(1000, 800); }
-};
-
-TEST(Completeness, EveryTypeHasAnSvgForm) {
-    const std::string blank = Drawing().SVG(svCurrentUnit, 1, false);
-    for (const TKSLItemType type : AvailableItemTypes()) {
-        SCOPED_TRACE(ToUtf8(NameItem(type)));
-        Drawing label;
-        const TItemSample* sample = SampleOf(type);
-        ASSERT_TRUE(sample);
-        SetEverything(MakeSample(label, *sample));
-        const bool drawn = label.SVG(svCurrentUnit, 1, false) != blank;
-        EXPECT_EQ(drawn, !std::ranges::count(NotInSvg, type, &TInvisible::type));
     }
 }
 

@@ -4,7 +4,6 @@
 
 #include <vagrel/editor/TAct.h>
 #include <vagrel/foundation/Text.h>
-#include <vagrel/messages/ListNames.h>
 #include <vagrel/messages/TVGRMsg.h>
 
 #include <set>
@@ -64,15 +63,6 @@ TEST(Completeness, EveryActionHasItsTexts) {
         EXPECT_EQ(info.aAction.empty(), action == eaFlow) << action;
     }
     TAct::ResetForTests();
-}
-
-TEST(Completeness, EveryListNamesItsChoices) {
-    for (int kind = lpLayer; kind <= lpBoxStyle; ++kind) {
-        std::vector<std::u16string> names;
-        FillList(TKSListProp(kind), names);
-        for (const std::u16string& name : names)
-            EXPECT_TRUE(!name.empty() && name != NotFound) << "list " << kind;
-    }
 }
 
 } // namespace

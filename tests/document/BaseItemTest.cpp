@@ -242,20 +242,6 @@ TEST_F(BaseItem, SizesAreMillimetresOnPaper) {
     EXPECT_EQ(box.GetPoint(2).bX, 11000000);
 }
 
-TEST_F(BaseItem, PastedItemsGetANumberAPlaceAndTheSelection) {
-    TBinaryWriter writer;
-    label.CreateLine(1000, 2000, 3000, 4000).Write(writer);
-    TVGRBaseItem& copy = label.CreateLine(0, 0, 0, 0);
-    TBinaryReader reader(writer.Bytes());
-    reader.Read<std::int32_t>();
-    std::int64_t seen = 0;
-    label.OnSelectItem = [&](TVGRBaseLabel&, TVGRBaseItem& item) { seen = item.BoundsRect().Left; };
-    copy.ReadData(3200, reader, rdPaste);
-    EXPECT_EQ(copy.GetID(), u"Line003");
-    EXPECT_EQ(copy.GetPoint(1), (TKSLPto{3000, 4000})); // 2 mm aside
-    EXPECT_EQ(seen, 3000);                              // its bounds are known when it is selected
-}
-
 } // namespace
 } // namespace test
 } // namespace vagrel

@@ -23,7 +23,11 @@ protected:
         label.Clear({cleUndoRedo}, false);
         label.Attach(&editor);
         editor.Take();
-        label.OnSelectItem = [this](TVGRBaseLabel&, TVGRBaseItem& item) { told.push_back(u"+" + item.GetID()); };
+        label.OnSelectItem = [this](TVGRBaseLabel&, TVGRBaseItem& item) {
+            told.push_back(u"+" + item.GetID());
+            EXPECT_NEAR(double(item.BoundsRect().Left), double(item.GetPoint(1).bX), 500)
+                << "its bounds are known when it is selected";
+        };
         label.OnUnSelectItem = [this](TVGRBaseLabel&, TVGRBaseItem& item) {
             told.push_back(u"-" + item.GetID() + (label.SearchItem(item.GetInID(), false) ? u"" : u" is gone"));
         };

@@ -126,12 +126,6 @@ TEST_F(Constructions, PicksReachTheFactories) {
     }
 }
 
-TEST_F(Constructions, ARadiusMayBeTypedInForALevel) {
-    Draw("eaLevel", {{7000, 8000}});
-    Play(R"({"op":"PickEditor","radius":2500})");
-    EXPECT_EQ(label.called, "itLevel 7000 8000 2500");
-}
-
 TEST_F(Constructions, APictureKeepsItsAspectWithCtrl) {
     Draw("eaImage", {{0, 0}, {5, 5}}, R"(,"shift":["ssCtrl"])");
     EXPECT_EQ(label.called, "itImage 0 0 5 5 1");

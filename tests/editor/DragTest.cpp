@@ -37,18 +37,6 @@ protected:
     TVGRBaseItem& line = label.CreateLine(50000, 20000, 55000, 30000);
 };
 
-TEST_F(Drag, ManyStepsMakeOneStepOfUndo) {
-    label.Clear({cleUndoRedo}, false);
-    Select({&box});
-    Begin(mtObjects);
-    for (int i = 0; i < 10; ++i)
-        Step(100, -50);
-    EXPECT_EQ(box.Points(), (TKSLPtoA{{11000, 9500}, {21000, 14500}}));
-    EXPECT_EQ(label.GetSelPoint(1).X1, 11);
-    EXPECT_EQ(Steps(), 1);
-    EXPECT_EQ(box.Points(), (TKSLPtoA{{10000, 10000}, {20000, 15000}}));
-}
-
 TEST_F(Drag, TheEditorIsToldInThisOrder) {
     Select({&box});
     Begin(mtObjects);
@@ -77,16 +65,6 @@ TEST_F(Drag, TheEditorIsToldInThisOrder) {
     EXPECT_EQ(Told(), (TChanges{chPaint, chPaint, chPropItem})) << "an arrow key";
 }
 
-TEST_F(Drag, TheSelectionStopsTogetherAtThePage) {
-    Select({&box, &line});
-    Begin(mtObjects);
-    Step(8000, 1000);
-    EXPECT_EQ(line.GetPoint(2), (TKSLPto{60000, 31000}));
-    EXPECT_EQ(box.GetPoint(1), (TKSLPto{15000, 11000})) << "as far as the line could go";
-    Step(8000, 1000);
-    EXPECT_EQ(box.GetPoint(1), (TKSLPto{15000, 12000})) << "the other axis goes on";
-}
-
 TEST_F(Drag, BoxHandlesMoveTheirEdges) {
     const struct {
         TKSLMoveType type;
@@ -110,16 +88,6 @@ TEST_F(Drag, BoxHandlesMoveTheirEdges) {
     Begin(mtW);
     Step(-90000, 0);
     EXPECT_EQ(box.GetPoint(1), (TKSLPto{0, 10000}));
-}
-
-TEST_F(Drag, AResizeOnTheGridTakesTheMovedEdgeToALine) {
-    Select({&box});
-    Begin(mtE);
-    Step(4200, 0, 5000, 5000);
-    EXPECT_EQ(box.BoundsRect(), (TKSLRect{10000, 10000, 25000, 15000}));
-    Begin(mtN);
-    Step(0, -700, 1000, 1000);
-    EXPECT_EQ(box.BoundsRect().Top, 9000);
 }
 
 TEST_F(Drag, ArrowKeysGoToTheNextLineOfTheGrid) {

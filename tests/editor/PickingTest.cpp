@@ -139,18 +139,6 @@ TEST_F(Picking, ATextThatItsHostDeletesStaysDeleted) {
     EXPECT_EQ(label.ItemsCount(), 3);
 }
 
-TEST_F(Picking, ARectangleAddsByInclusionOrTouch) {
-    const TKSLRect exact{10000, 10000, 20000, 20000}, far{51000, 20000, 52000, 21000};
-    EXPECT_FALSE(label.SearchRectangle(far, true));
-    EXPECT_EQ(Told(), TChanges{});
-    EXPECT_TRUE(label.SearchRectangle(exact, false)) << "edges may coincide";
-    EXPECT_EQ(Selection(), TItems{&low});
-    EXPECT_EQ(Told(), TChanges{chSelect});
-    EXPECT_TRUE(label.SearchRectangle({0, 0, 60000, 35000}, true));
-    EXPECT_EQ(Selection(), (TItems{&low, &line, &high})) << "added from the top down, none twice";
-    EXPECT_FALSE(label.SearchRectangle({0, 0, 60000, 35000}, true)) << "nothing is left to add";
-}
-
 TEST_F(Picking, ReferencesJoinAndLeaveAsReferences) {
     TAct::SetCurAction(eaDimAng);
     auto pick = [&](TKSLPto at) { return label.SearchRef(at.bX, at.bY, 300, {}, false); };
@@ -175,15 +163,6 @@ TEST_F(Picking, ReferencesJoinAndLeaveAsReferences) {
     TAct::SetCurAction(eaEquidist);
     EXPECT_TRUE(pick({15000, 30000}));
     EXPECT_EQ(curve.GetState(), isRef);
-}
-
-TEST_F(Picking, GeometryActionsSayThatTheyAreNotThere) {
-    TAct::SetCurAction(eaTrim);
-    EXPECT_THROW(label.SearchRef(45000, 10000, 300, {}, true), ENotAvailable);
-    EXPECT_EQ(TAct::GetAction(), eaSelection);
-    TAct::SetCurAction(eaTrim);
-    Select({&line});
-    EXPECT_FALSE(label.SearchRef(2000, 2000, 300, {}, true));
 }
 
 TEST_F(Picking, CirclesAreFoundFromBelowOnHiddenLayersToo) {
@@ -220,11 +199,6 @@ TEST_F(Picking, LinksAttachToAnchorsAndFollowTheSelection) {
     EXPECT_EQ(tied.calcs, std::vector{2});
     Click({16000, 16000});
     EXPECT_EQ(tied.GetState(), isNormal);
-}
-
-TEST_F(Picking, NothingIsNotPicked) {
-    EXPECT_FALSE(label.PickItem(nullptr, 11000, 11000, 300, true));
-    EXPECT_TRUE(label.PickItem(&low, 11000, 11000, 300, true));
 }
 
 } // namespace

@@ -33,7 +33,7 @@ public:
 
     // One whole gesture of which everything is recorded.
     void Gesture() {
-        switch (Below(10)) {
+        switch (Below(11)) {
         case 0:
         case 1:
         case 2:
@@ -50,6 +50,8 @@ public:
                 Play(R"({"op":"DeleteSelection"})");
             return;
         case 8:
+            return SetSomething();
+        case 9:
             return Play(R"({"op":"AlignObjects","edge":)" + Any<TKSLObjectAlign>(oaBottom) + "}");
         default:
             return Play(OneOf({R"({"op":"CenterHorizontal"})", R"({"op":"CenterVertical"})", R"({"op":"SameWidth"})",
@@ -58,6 +60,11 @@ public:
                                R"({"op":"MoveEditor","x":1000,"y":-500,"keyboard":true})",
                                R"({"op":"MoveEditor","x":1,"y":-1,"gridX":1000,"gridY":1000,"keyboard":true})"}));
         }
+    }
+
+    // Some steps back or forth.
+    void Travel() {
+        Play(R"({"op":")" + OneOf({"Undo", "Redo"}) + R"(","times":)" + std::to_string(1 + Below(6)) + "}");
     }
 
     // Any operation with any parameters.
@@ -175,6 +182,30 @@ private:
         Play(Event("UpEditor", {0, 0}));
     }
 
+    void SetSomething() {
+        if (label.ItemsCount() == 0)
+            return;
+        TVGRBaseItem& item = *label.GetItem(1 + Below(label.ItemsCount()));
+        last += "a property of item " + std::to_string(item.GetInID()) + "\n";
+        auto* back = Query<IKSLBack>(&item);
+        auto* style = Query<IKSLStyle>(&item);
+        auto* ends = Query<IKSLSTerm>(&item);
+        switch (Below(5)) {
+        case 0:
+            return item.SetColor(TAlphaColor(Below(3)));
+        case 1:
+            return item.SetPenWidth(0.25f * float(Below(4)));
+        case 2:
+            return style ? style->SetLineType(TKSLineType(Below(4))) : void();
+        case 3:
+            return !back ? void() : Below(2) ? back->SetBackColor(TAlphaColor(Below(3))) : back->SetFilled(Below(2));
+        default:
+            return !ends      ? void()
+                   : Below(2) ? ends->SetFromType(TKSLTermType(Below(4)))
+                              : ends->SetSizeTo(float(Below(9)));
+        }
+    }
+
     void SelectByRectangle() {
         Play(R"({"op":"ResetAction"})");
         Play(Event("PickEditor", {1000, 1000}));
@@ -233,6 +264,20 @@ TEST_P(RandomSessions, WhatWasRecordedIsUndoneAndRedone) {
         ASSERT_EQ(FormsOf(player.label), start) << player.last;
         RedoAll(player.label);
         ASSERT_EQ(FormsOf(player.label), end) << player.last;
+    }
+}
+
+// What stands on the redo stack then grows old, and what it does is free. The way back to the start stays.
+TEST_P(RandomSessions, StepsInBetweenLeaveTheWayBack) {
+    TAct::ResetForTests();
+    Player player(GetParam());
+    const TForms start = FormsOf(player.label);
+    for (int i = 0; i < 300; ++i)
+        i % 8 == 7 ? player.Travel() : player.Gesture();
+    for (int i = 0; i < 2; ++i) {
+        UndoAll(player.label);
+        ASSERT_EQ(FormsOf(player.label), start) << player.last;
+        RedoAll(player.label);
     }
 }
 

@@ -18,47 +18,6 @@ protected:
     TKSLRef ref;
 };
 
-TEST_F(Snapping, TheToleranceIsASquareWithItsEdges) {
-    const struct {
-        const char* text;
-        TVGRBaseItem& item;
-        TKSLSnap snap;
-        TKSLPto point;
-        TKSRefType marker;
-    } rows[] = {
-        {"point", label.CreatePoint(5000, 5000), snPoint, {5000, 5000}, rtyCircle},
-        {"middle of a line", label.CreateLine(10001, 5000, 20000, 5000), snMiddle, {15000, 5000}, rtyRect},
-        {"end of a line", label.CreateLine(25000, 5000, 30000, 5000), snEnd, {25000, 5000}, rtyRect},
-        {"vertex", label.CreatePolyLine({{5000, 15000}, {9000, 15000}, {9000, 19000}}), snEnd, {9000, 15000}, rtyRect},
-        {"closing side",
-         label.CreatePolygon({{15000, 15000}, {19000, 15000}, {19000, 19000}}),
-         snMiddle,
-         {17000, 17000},
-         rtyRect},
-        {"end of a curve",
-         label.CreateBezier({{25000, 15000}, {26000, 12000}, {28000, 12000}, {29000, 15000}}),
-         snEnd,
-         {29000, 15000},
-         rtyRect},
-        {"corner", label.CreateRectangle(35000, 15000, 5000, 5000), snEnd, {35000, 20000}, rtyRect},
-        {"middle of a side", label.CreateRectangle(45000, 15000, 5000, 4000), snMiddle, {50000, 17000}, rtyRect},
-        {"centre of a circle", label.CreateCircle({10000, 28000}, 4000), snCenter, {10000, 28000}, rtyCircle},
-        {"centre of an ellipse", label.CreateEllipse({25000, 28000}, 5000, 3000), snCenter, {25000, 28000}, rtyCircle},
-        {"centre of a sector", label.CreateSector({40000, 28000}, 4000, 0, 90), snCenter, {40000, 28000}, rtyCircle},
-    };
-    for (const auto& row : rows) {
-        const auto [x, y] = row.point;
-        for (const TKSLPto at : {TKSLPto{x - 300, y + 300}, TKSLPto{x + 300, y - 300}}) {
-            EXPECT_EQ(Find(at, row.snap), row.point) << row.text;
-            EXPECT_EQ(ref.fType, row.marker) << row.text;
-        }
-        for (const TKSLPto at : {TKSLPto{x + 301, y}, TKSLPto{x - 301, y}, TKSLPto{x, y + 301}, TKSLPto{x, y - 301}})
-            EXPECT_EQ(Find(at, row.snap), No) << row.text;
-        EXPECT_EQ(Find(row.point, snGrid), No) << row.text;
-        EXPECT_EQ(Find(row.point, snRefSymbol), No) << row.text;
-    }
-}
-
 TEST_F(Snapping, TheTopItemAnswersUnlessItIsLeftOut) {
     label.CreateLine(10000, 10000, 20000, 10000);
     TVGRBaseItem& top = label.CreateLine(10100, 10100, 20000, 20000);

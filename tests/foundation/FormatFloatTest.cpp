@@ -63,33 +63,6 @@ TEST(FormatFloat, WritesByPattern) {
         EXPECT_EQ(ToUtf8(FormatFloat(row.pattern, row.value)), row.text) << ToUtf8(row.pattern) << " of " << row.value;
 }
 
-TEST(AppendFixed, RoundsTheExactValue) {
-    const struct {
-        double value;
-        int decimals;
-        const char* text;
-    } rows[] = {
-        {0.125, 2, "0.13"},
-        {-0.125, 2, "-0.13"},
-        {2.675, 2, "2.67"},
-        {1.005, 2, "1.00"},
-        {0.5, 0, "1"},
-        {-0.4, 0, "0"},
-        {-0.0, 1, "0.0"},
-        {0.99999, 2, "1.00"},
-        {9.5, 0, "10"},
-        {5e-324, 9, "0.000000000"},
-        {2251799813685248.5, 2, "2251799813685248.50"},
-        {-9007199254740993.0, 1, "-9007199254740992.0"},
-        {9223372036854775808.0, 2, "9223372036854775808.00"},
-        {1e23, 0, "99999999999999991611392"},
-        {8388607.0000000005, 9, "8388607.000000001"},
-        {4194303.0000000005, 9, "4194303.000000000"},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(Fixed(row.value, row.decimals), row.text) << std::hexfloat << row.value;
-}
-
 // The patterns go another road: all digits of the value, then rounding in decimal.
 TEST(AppendFixed, AgreesWithThePatternForAnyDouble) {
     std::mt19937_64 random(20);

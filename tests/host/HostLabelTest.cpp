@@ -41,43 +41,6 @@ protected:
         fs::path(testing::TempDir()) / testing::UnitTest::GetInstance()->current_test_info()->name();
 };
 
-TEST_F(HostLabelTest, FactoriesPlaceItemsOnTheActiveLayer) {
-    TestHost label;
-    label.AddLayer();
-    label.SetActiveLayer(2);
-    const std::pair<TVGRBaseItem&, TKSLPtoA> cases[] = {
-        {label.CreatePoint(1, 2), {{1, 2}}},
-        {label.CreatePolyLine({{1, 2}, {3, 4}, {5, 6}}), {{1, 2}, {3, 4}, {5, 6}}},
-        {label.CreateRectangle(1, 2, 10, 20), {{1, 2}, {11, 22}}},
-        {label.CreateCircle({100, 200}, 50), {{50, 150}, {150, 250}}},
-        {label.CreateCircle2P({0, 0}, {100, 0}), {{0, -50}, {100, 50}}},
-        {label.CreateCircle3P({0, 0}, {50, 50}, {100, 0}), {{0, -50}, {100, 50}}},
-        {label.CreateEllipse({0, 0}, 30, 20), {{-30, -20}, {30, 20}}},
-        {label.CreateSector({0, 0}, 40, 0, 90), {{-40, -40}, {40, 40}}},
-    };
-    for (const auto& [item, points] : cases) {
-        SCOPED_TRACE(ToUtf8(item.GetID()));
-        EXPECT_EQ(&item.GetLayer(), &label.GetLayer(2));
-        ASSERT_EQ(std::size_t(item.NumPoints()), points.size());
-        for (int i = 1; i <= item.NumPoints(); ++i)
-            EXPECT_EQ(item.GetPoint(i), points[std::size_t(i - 1)]) << i;
-    }
-}
-
-TEST_F(HostLabelTest, AFactoryThatThrowsLeavesNoItem) {
-    TestHost label;
-    TBinaryWriter snapshot;
-    snapshot.Write(std::int32_t(3200));
-    label.CreateLine(1, 2, 3, 4).WriteData(snapshot);
-    const std::string bytes = snapshot.Take();
-    EXPECT_EQ(label.CreateElementFromStream(bytes).GetPoint(2), (TKSLPto{3, 4}));
-    for (std::size_t length = 0; length < bytes.size(); ++length)
-        EXPECT_THROW(label.CreateElementFromStream(std::string_view(bytes).substr(0, length)), EStreamError) << length;
-    EXPECT_THROW(label.CreateCircle3P({0, 0}, {1, 1}, {2, 2}), EInvalidOperation);
-    EXPECT_THROW(label.CreateSymbol(0, 0), ENotAvailable);
-    EXPECT_EQ(label.ItemsCount(), 2);
-}
-
 TEST_F(HostLabelTest, BadFilesAreRefusedWithTheirPlace) {
     struct TCase {
         const char* what;

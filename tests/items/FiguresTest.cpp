@@ -84,6 +84,8 @@ TEST_F(Figures, SnapsFindTheirPoints) {
         {"corner", rectangle, snEnd, {29800, 10200}, no, {30000, 10000}},
         {"foot on the bottom", rectangle, snPerpendicular, {12000, 20000}, {12000, 50000}, {12000, 20000}},
         {"foot on the closing side", polygon, snPerpendicular, {10000, 12000}, {40000, 12000}, {10000, 12000}},
+        {"middle of the closing side", polygon, snMiddle, {10300, 19700}, no, {10000, 20000}},
+        {"end of a curve", bezier, snEnd, {40300, 29700}, no, {40000, 30000}},
         {"control points are no ends", bezier, snEnd, {40000, 10000}, no, no},
         {"centre", circle, snCenter, {30200, 19800}, no, {30000, 20000}, rtyCircle},
         {"rim towards the cursor", circle, snTangent, {30000, 10200}, no, {30000, 10000}, rtyCircle},

@@ -63,6 +63,7 @@ TEST_P(EveryItem, SurvivesJson) {
     ASSERT_EQ(copy.ItemsCount(), 1);
     EXPECT_EQ(copy.GetItem(1)->Points(), item->Points());
     EXPECT_EQ(copy.GetItem(1)->BoundsRect(), item->BoundsRect());
+    EXPECT_EQ(copy.SVG(svCurrentUnit, 1, true), label.SVG(svCurrentUnit, 1, true));
 }
 
 TEST_P(EveryItem, SurvivesTheBinaryForm) {

@@ -68,21 +68,6 @@ TEST(Lines, SnapsFindTheFirstPointInOrder) {
     });
 }
 
-TEST(Lines, PointsAreInsertedAndDeleted) {
-    TestHost label(emLabelling, unCM);
-    TVGRBasePolyLine& steps = PolyLine(label, Steps);
-    EXPECT_FALSE(steps.InsertPoint(20000, 20000, 100));
-    EXPECT_TRUE(steps.InsertPoint(30050, 20000, 100));
-    EXPECT_EQ(steps.Points(), (TKSLPtoA{Steps[0], Steps[1], {30050, 20000}, Steps[2], Steps[3]}));
-    EXPECT_FALSE(steps.DeletePoint(6));
-    EXPECT_TRUE(steps.DeletePoint(3));
-    steps.AddPoint(6, 1.5f);
-    steps.Update();
-    EXPECT_EQ(steps.Points(), (TKSLPtoA{Steps[0], Steps[1], Steps[2], Steps[3], {60000, 15000}}));
-    EXPECT_EQ(steps.BoundsRect(), (TKSLRect{10000, 10000, 60000, 30000}));
-    EXPECT_EQ(steps.CenterPoint(), (TKSLBase{36000, 17000}));
-}
-
 TEST(Lines, TerminalSizesAreClamped) {
     TestHost label(emDrawing, unMM, 10);
     TVGRBasePolyLine& steps = PolyLine(label, Steps);

@@ -145,30 +145,6 @@ TEST_F(TextTest, WritesSvg) {
         "alignment-baseline=\"text-before-edge\"  transform=\"rotate(-180 9 20) scale(2, 1)\">a&lt;&amp;</text>\n");
 }
 
-TEST_F(TextTest, SurvivesBothFileForms) {
-    text.SetFontName(u"Verdana");
-    text.SetItalic(true);
-    text.SetPaddingY(1.5f);
-    text.SetRadio(2);
-    text.SetDispWidth(5000);
-    text.SetData(ftNone, u"{name", u"0.0");
-    text.CalcValues(2);
-    const auto json = text.WriteJson();
-    MeasuredText fromJson(label, false);
-    fromJson.ReadJson(3200, *json);
-    fromJson.CalcValues(2); // measured sizes are in no file
-    EXPECT_EQ(fromJson.WriteJson()->ToJSON(), json->ToJSON());
-    TBinaryWriter writer;
-    text.WriteData(writer);
-    TBinaryReader reader(writer.Bytes());
-    EXPECT_EQ(reader.Read<std::int32_t>(), itText);
-    MeasuredText fromBinary(label, false);
-    fromBinary.ReadData(3200, reader, rdNormal);
-    fromBinary.CalcValues(2);
-    EXPECT_EQ(fromBinary.WriteJson()->ToJSON(), json->ToJSON());
-    EXPECT_EQ(reader.Left(), 0u);
-}
-
 TEST(LabelOnLine, LeavesAGapWhereTheLabelStandsInTheLine) {
     const TLabelSize size{1000, 4000, 800, 200};
     const TLabelPlace above = PosBaseLinesText({0, 0}, {10000, 0}, size, tpAbove);

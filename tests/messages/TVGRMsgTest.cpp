@@ -28,20 +28,6 @@ protected:
         testing::TempDir() + testing::UnitTest::GetInstance()->current_test_info()->name() + ".lng";
 };
 
-TEST_F(TVGRMsgTest, FindsDefaultsByGroup) {
-    EXPECT_EQ(TVGRMsg::GetErrorValue(u"EmptyText"), u"The text cannot be empty");
-    EXPECT_EQ(TVGRMsg::GetErrorValue(u"Polygon"), u"Polygon needs at leat three points");
-    EXPECT_EQ(TVGRMsg::GetInfoValue(u"NewLayer"), u"New Layer");
-    EXPECT_EQ(TVGRMsg::GetPropValue(u"Label"), u"Label properties");
-    EXPECT_EQ(TVGRMsg::GetPropValue(u"TextBefore"), u"Text before");
-    EXPECT_EQ(TVGRMsg::GetDialogsValue(u"CsvFile"), u"CsvFile");
-    EXPECT_EQ(TVGRMsg::GetEditorValue(u"PickGap"), u"Tolerance selection");
-    EXPECT_EQ(TVGRMsg::GetActionsValue(u"DrawCirclePR"), u"Draw Circle Point and Radio");
-    EXPECT_EQ(TVGRMsg::GetListValue(u"Style1"), u"Style 1");
-    EXPECT_EQ(TVGRMsg::GetCommandValue(u"Open"), u"not found");
-    EXPECT_EQ(TVGRMsg::GetErrorValue(u"errEmptyText"), u"not found");
-}
-
 TEST_F(TVGRMsgTest, LanguageFileReplacesAndAdds) {
     Load("\xEF\xBB\xBF; errEmptyID=comment\r\n[error]\r\n errEmptyText = El \"texto\" a=b \r\n=x\nnothing\n"
          "[Commands]\ncmdOpen=Abrir ñ\n;cmdClose=x\n[Other]\nerrEmptyID=other\n[List]\nproField=Campo");

@@ -85,7 +85,7 @@ const TItemSample Samples[] = {
      "Code IgnoreParentheses CheckSum ShowNumber Font Data ",
      61,
      Preview<TVGRBaseBarcode>,
-     "ID Options Points PaddingX PaddingY Data "},
+     "ID Options Points CheckType Distance PaddingX PaddingY IgnoreParentheses CheckSum ShowNumber Data "},
     {itPDF417,
      {{150000, 120000}},
      {150000, 120000},
@@ -94,7 +94,7 @@ const TItemSample Samples[] = {
      "Code Data ",
      50,
      Preview<TVGRBasePDF417>,
-     "ID Options Points HorzAlign VertAlign PaddingX PaddingY Data "},
+     "ID Options Points CorrecLevel HorzAlign VertAlign PaddingX PaddingY Truncated Cols Data "},
     {itDataMatrix,
      {{150000, 120000}},
      {150000, 120000},
@@ -102,7 +102,7 @@ const TItemSample Samples[] = {
      "Filled FillColor DMSize DMShape BarWidth BarHeight HorzAlign VertAlign PaddingX PaddingY Factor Code Data ",
      46,
      Preview<TVGRBaseDataMatrix>,
-     "ID Options Points HorzAlign VertAlign PaddingX PaddingY Data "},
+     "ID Options Points DMSize DMShape HorzAlign VertAlign PaddingX PaddingY Data "},
     {itQRCode,
      {{150000, 120000}},
      {150000, 120000},
@@ -110,7 +110,7 @@ const TItemSample Samples[] = {
      "Filled FillColor Encoding BarWidth BarHeight HorzAlign VertAlign PaddingX PaddingY Factor Code Data ",
      38,
      Preview<TVGRBaseQRCode>,
-     "ID Options Points HorzAlign VertAlign PaddingX PaddingY Data "},
+     "ID Options Points Encoding HorzAlign VertAlign PaddingX PaddingY Data "},
 };
 
 } // namespace
@@ -199,6 +199,24 @@ std::vector<TSetter> SettersOf(TVGRBaseItem& item) {
     if (auto* sector = dynamic_cast<TVGRBaseSector*>(&item)) {
         all.push_back([=] { sector->SetStartAngle(-30.5f); });
         all.push_back([=] { sector->SetSweepAngle(200.25f); });
+    }
+    if (auto* bars = dynamic_cast<TVGRBaseBarcode*>(&item)) {
+        all.push_back([=] { bars->SetCheckType(ctMod11); });
+        all.push_back([=] { bars->SetCheckSum(true); });
+        all.push_back([=] { bars->SetIgnoreParentheses(true); });
+        all.push_back([=] { bars->SetShowNumber(false); });
+        all.push_back([=] { bars->SetDistance(0.75f); });
+    }
+    if (auto* qr = dynamic_cast<TVGRBaseQRCode*>(&item))
+        all.push_back([=] { qr->SetEncoding(ISO88591); });
+    if (auto* matrix = dynamic_cast<TVGRBaseDataMatrix*>(&item)) {
+        all.push_back([=] { matrix->SetDMSize(ecc200_26x26); });
+        all.push_back([=] { matrix->SetDMShape(ecc200_Rectangle); });
+    }
+    if (auto* pdf = dynamic_cast<TVGRBasePDF417*>(&item)) {
+        all.push_back([=] { pdf->SetCorrecLevel(Level5); });
+        all.push_back([=] { pdf->SetTruncated(true); });
+        all.push_back([=] { pdf->SetCols(4); });
     }
     return all;
 }
