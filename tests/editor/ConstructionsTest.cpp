@@ -65,7 +65,7 @@ protected:
     void Play(const std::string& lines) { session.Play(lines); }
     /// Draws with a tool and answers the changes told behind the last pick.
     std::string Draw(const std::string& action, const TKSLPtoA& picks, const std::string& more = "") {
-        Play(R"({"op":"SetAction","action":")" + action + R"("})");
+        Play(Tool(action));
         for (const TKSLPto pick : picks) {
             trace.clear();
             const std::string event = Event("PickEditor", pick);

@@ -2,7 +2,6 @@
 // The worker that finds crossings, and what becomes of them while the document changes.
 #include <tests/editor/EditorFixture.h>
 
-#include <vagrel/editor/AllCrossings.h>
 #include <vagrel/platform/MainThreadQueue.h>
 
 #include <random>
@@ -142,18 +141,6 @@ TEST_F(Intersections, TheMainThreadEditsMeanwhile) {
             label.GetItem(i)->IntersectsWith(*label.GetItem(j), expected);
     EXPECT_EQ(label.GetIntersections(), expected);
     EXPECT_GT(expected.size(), 1000u);
-}
-
-TEST(AllCrossings, StopsWhenItIsTold) {
-    std::vector<TFigure> figures(2);
-    for (std::int32_t i = 0; i < 2; ++i)
-        figures[std::size_t(i)] = {i, TKSLShape::Segments({{0, i * 10}, {10, 10 - i * 10}}, false)};
-    std::vector<TIntSecPoint> found;
-    std::atomic<bool> stop = false;
-    EXPECT_TRUE(AllCrossings(figures, stop, found));
-    EXPECT_EQ(found, (std::vector<TIntSecPoint>{{{5, 5}, 0, 1}}));
-    stop = true;
-    EXPECT_FALSE(AllCrossings(figures, stop, found));
 }
 
 } // namespace

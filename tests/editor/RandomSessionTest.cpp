@@ -131,7 +131,7 @@ private:
                                           eaCirclePR, eaCircle2P, eaCircle3P,  eaEllipse,  eaSectorPR, eaText,
                                           eaArc,      eaQRCode,   eaTrim,      eaDimRad1};
         const TKSLEdAction tool = tools[Below(int(std::size(tools)))];
-        Play(R"({"op":"SetAction","action":")" + std::string(EnumName(tool)) + R"("})");
+        Play(Tool(std::string(EnumName(tool))));
         const TKSLPto start = Place();
         for (int i = 0; i < 4 && TAct::GetAction() == tool; ++i)
             Play(Event("PickEditor", i == 0 ? start : Near(start)));

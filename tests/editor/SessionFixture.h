@@ -24,6 +24,8 @@ inline std::string Event(const std::string& op, TKSLPto at) {
     return R"({"op":")" + op + R"(","x":)" + std::to_string(at.bX) + R"(,"y":)" + std::to_string(at.bY) + "}";
 }
 
+inline std::string Tool(const std::string& action) { return R"({"op":"SetAction","action":")" + action + R"("})"; }
+
 inline std::string Where() {
     return std::string(EnumName(TAct::GetAction())) + " " + std::string(EnumName(TAct::GetState()));
 }
@@ -34,10 +36,11 @@ protected:
     ~Sessions() override { TAct::ResetForTests(); }
 
     void Play(const std::string& lines) { session.Play(lines); }
-    /// Plays a line and keeps what it caused.
-    void Traced(const std::string& line) {
+    /// What a line causes.
+    std::string Traced(const std::string& line) {
         trace.clear();
         session.PlayLine(line);
+        return trace;
     }
 
     struct TReset {

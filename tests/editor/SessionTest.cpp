@@ -60,7 +60,7 @@ TEST_F(Sessions, EveryToolLeavesItsItem) {
     for (const TTool& tool : Tools) {
         SCOPED_TRACE(tool.action);
         label.New();
-        Play(R"({"op":"SetAction","action":")" + std::string(tool.action) + R"("})");
+        Play(Tool(tool.action));
         for (const TKSLPto pick : tool.picks)
             Play(Event("PickEditor", pick));
         if (tool.right)
@@ -79,9 +79,8 @@ TEST_F(Sessions, EveryToolLeavesItsItem) {
 TEST_F(Sessions, ARadiusMayBeTypedIn) {
     for (const char* action : {"eaCirclePR", "eaSectorPR"}) {
         label.New();
-        Play(R"({"op":"SetAction","action":")" + std::string(action) + R"("})");
-        Traced(R"({"op":"PickEditor","radius":5000})");
-        EXPECT_THAT(trace, HasSubstr("chDraw")) << "no centre yet";
+        Play(Tool(action));
+        EXPECT_THAT(Traced(R"({"op":"PickEditor","radius":5000})"), HasSubstr("chDraw")) << "no centre yet";
         EXPECT_EQ(label.ItemsCount(), 0);
         Play(Event("PickEditor", {20000, 20000}));
         Traced(R"({"op":"PickEditor","radius":-5000})");
@@ -89,9 +88,8 @@ TEST_F(Sessions, ARadiusMayBeTypedIn) {
         EXPECT_EQ(label.GetItem(1)->Points(), (TKSLPtoA{{15000, 15000}, {25000, 25000}}));
         EXPECT_THAT(trace, testing::Not(HasSubstr("chPaint")));
     }
-    Play(R"({"op":"SetAction","action":"eaLine"})");
-    Traced(R"({"op":"PickEditor","radius":5000})");
-    EXPECT_EQ(trace, "  = eaLine edPickFirst\n");
+    Play(Tool("eaLine"));
+    EXPECT_EQ(Traced(R"({"op":"PickEditor","radius":5000})"), "  = eaLine edPickFirst\n");
 }
 
 // Whatever family is there or to come: the tool draws one item that is undone and redone, or says that it is not
@@ -106,7 +104,7 @@ TEST_F(Sessions, EveryToolDrawsOrSaysThatItCannot) {
         label.CreateLine(5000, 1000, 5000, 50000);
         label.Clear({cleUndoRedo, cleSelection}, false);
         const std::u16string start = JsonOf(label);
-        Play(R"({"op":"SetAction","action":")" + name + R"("})");
+        Play(Tool(name));
         bool thrown = false;
         try {
             for (const TKSLPto pick : TKSLPtoA{{30000, 20000}, {5000, 30000}, {26000, 28000}, {5000, 20000}})
@@ -131,7 +129,7 @@ TEST_F(Sessions, EveryToolDrawsOrSaysThatItCannot) {
 }
 
 TEST_F(Sessions, NoCircleThroughALineResetsTheTool) {
-    Play(R"({"op":"SetAction","action":"eaCircle3P"})");
+    Play(Tool("eaCircle3P"));
     Play(Event("PickEditor", {1000, 1000}) + "\n" + Event("PickEditor", {2000, 2000}));
     EXPECT_THROW(Play(Event("PickEditor", {3000, 3000})), EInvalidOperation);
     EXPECT_EQ(Where(), "eaSelection edPickPoint");
@@ -142,31 +140,25 @@ TEST_F(Sessions, NoCircleThroughALineResetsTheTool) {
 // Choice of tools
 
 TEST_F(Sessions, ChoosingTellsOnceAndEscapeGoesBack) {
-    Traced(R"({"op":"SetAction","action":"eaLine"})");
-    EXPECT_EQ(trace, "  chCursor eaLine edPickFirst -> editor\n"
-                     "  info \"Draw Line\" \"Select first point\"\n"
-                     "  = eaLine edPickFirst\n");
+    EXPECT_EQ(Traced(Tool("eaLine")), "  chCursor eaLine edPickFirst -> editor\n"
+                                      "  info \"Draw Line\" \"Select first point\"\n"
+                                      "  = eaLine edPickFirst\n");
     Play(Event("PickEditor", {1, 1}));
-    Traced(R"({"op":"SetAction","action":"eaLine"})");
-    EXPECT_EQ(trace, "  = eaLine edPickSecond\n") << "it runs already";
-    Traced(R"({"op":"ResetAction"})");
-    EXPECT_EQ(trace, "  chSelCur -> editor\n"
-                     "  info \"Selection\" \"Select point\"\n"
-                     "  = eaSelection edPickPoint\n");
-    Traced(R"({"op":"LastAction"})");
-    EXPECT_EQ(trace, "  chSelect -> editor inspector\n"
-                     "  = eaLine edPickFirst\n");
+    EXPECT_EQ(Traced(Tool("eaLine")), "  = eaLine edPickSecond\n") << "it runs already";
+    EXPECT_EQ(Traced(R"({"op":"ResetAction"})"), "  chSelCur -> editor\n"
+                                                 "  info \"Selection\" \"Select point\"\n"
+                                                 "  = eaSelection edPickPoint\n");
+    EXPECT_EQ(Traced(R"({"op":"LastAction"})"), "  chSelect -> editor inspector\n"
+                                                "  = eaLine edPickFirst\n");
     for (int i = 0; i < 2; ++i) {
-        Traced(R"({"op":"SetAction","action":"eaSymbol"})");
-        EXPECT_EQ(trace, (i == 0 ? std::string("  info \"Draw Symbol\" \"Select point\"\n") : std::string()) +
-                             "  chSelSymbol -> editor\n  = eaSymbol edPickPoint\n");
+        EXPECT_EQ(Traced(Tool("eaSymbol")),
+                  (i == 0 ? std::string("  info \"Draw Symbol\" \"Select point\"\n") : std::string()) +
+                      "  chSelSymbol -> editor\n  = eaSymbol edPickPoint\n");
     }
-    Traced(R"({"op":"SetAction","action":"eaEdText"})");
-    EXPECT_EQ(trace, "  info \"Selection\" \"Select point\"\n"
-                     "  = eaSelection edPickPoint\n")
+    EXPECT_EQ(Traced(Tool("eaEdText")), "  info \"Selection\" \"Select point\"\n"
+                                        "  = eaSelection edPickPoint\n")
         << "no text is selected";
-    Traced("{\"op\":\"LastAction\"}");
-    EXPECT_THAT(trace, HasSubstr("chSelSymbol"));
+    EXPECT_THAT(Traced("{\"op\":\"LastAction\"}"), HasSubstr("chSelSymbol"));
     Play(R"({"op":"FlowAction","type":"ftDecision"})");
     Play(Event("PickEditor", {1, 1}));
     EXPECT_EQ(TAct::GetDrawType(), dtDiamond);
@@ -180,69 +172,61 @@ TEST_F(Sessions, ChoosingTellsOnceAndEscapeGoesBack) {
 // Notifications
 
 TEST_F(Sessions, ADrawingTellsInThisOrder) {
-    Play(R"({"op":"SetAction","action":"eaRectangle"})");
-    Traced(Event("PickEditor", {1000, 1000}));
-    EXPECT_EQ(trace, "  chDraw eaRectangle edPickSecond -> editor preview\n"
-                     "  info \"Draw Rectangle\" \"Select second point\"\n"
-                     "  = eaRectangle edPickSecond\n");
-    Traced(Event("PickEditor", {9000, 6000}));
-    EXPECT_EQ(trace, "  undo filled, redo empty\n"
-                     "  select Rectangle001\n"
-                     "  chSelect -> editor inspector\n"
-                     "  chPaint 1 -> editor preview\n"
-                     "  chCursor eaSelection edPickPoint -> editor\n"
-                     "  info \"Selection\" \"Select point\"\n"
-                     "  = eaSelection edPickPoint\n");
-    Play(R"({"op":"SetAction","action":"eaText"})");
-    Traced(Event("PickEditor", {1000, 1000}));
-    EXPECT_THAT(trace, HasSubstr("  unselect Rectangle001\n"
-                                 "  select Text002\n"
-                                 "  chText -> editor inspector\n"
-                                 "  chPaint 1 -> editor preview\n"
-                                 "  chCursor eaEdText edEditing -> editor\n"
-                                 "  info \"Edit text\" \"Editing\"\n"
-                                 "  = eaEdText edEditing\n"));
+    Play(Tool("eaRectangle"));
+    EXPECT_EQ(Traced(Event("PickEditor", {1000, 1000})), "  chDraw eaRectangle edPickSecond -> editor preview\n"
+                                                         "  info \"Draw Rectangle\" \"Select second point\"\n"
+                                                         "  = eaRectangle edPickSecond\n");
+    EXPECT_EQ(Traced(Event("PickEditor", {9000, 6000})), "  undo filled, redo empty\n"
+                                                         "  select Rectangle001\n"
+                                                         "  chSelect -> editor inspector\n"
+                                                         "  chPaint 1 -> editor preview\n"
+                                                         "  chCursor eaSelection edPickPoint -> editor\n"
+                                                         "  info \"Selection\" \"Select point\"\n"
+                                                         "  = eaSelection edPickPoint\n");
+    Play(Tool("eaText"));
+    EXPECT_THAT(Traced(Event("PickEditor", {1000, 1000})), HasSubstr("  unselect Rectangle001\n"
+                                                                     "  select Text002\n"
+                                                                     "  chText -> editor inspector\n"
+                                                                     "  chPaint 1 -> editor preview\n"
+                                                                     "  chCursor eaEdText edEditing -> editor\n"
+                                                                     "  info \"Edit text\" \"Editing\"\n"
+                                                                     "  = eaEdText edEditing\n"));
 }
 
 TEST_F(Sessions, ADragTellsInThisOrder) {
     TVGRBaseItem& box = label.CreateRectangle(10000, 10000, 10000, 10000);
     label.SetSelection(&box, isSelected);
     label.Clear({cleUndoRedo}, false);
-    Traced(Event("PickEditor", {10000, 15000}));
-    EXPECT_EQ(trace, "  info \"Move\" \"Objects\"\n"
-                     "  chPickSel -> editor\n"
-                     "  = eaMove edPickPoint\n");
-    Traced(R"({"op":"MoveEditor","x":-1000,"y":0})");
-    EXPECT_EQ(trace, "  undo filled, redo empty\n"
-                     "  chPaint 1 -> editor preview\n"
-                     "  chPropItem -> editor inspector\n"
-                     "  = eaMove edPickPoint\n");
-    Traced(R"({"op":"MoveEditor","x":-1000,"y":-500})");
-    EXPECT_THAT(trace, testing::Not(HasSubstr("undo"))) << "one command for the run";
+    EXPECT_EQ(Traced(Event("PickEditor", {10000, 15000})), "  info \"Move\" \"Objects\"\n"
+                                                           "  chPickSel -> editor\n"
+                                                           "  = eaMove edPickPoint\n");
+    EXPECT_EQ(Traced(R"({"op":"MoveEditor","x":-1000,"y":0})"), "  undo filled, redo empty\n"
+                                                                "  chPaint 1 -> editor preview\n"
+                                                                "  chPropItem -> editor inspector\n"
+                                                                "  = eaMove edPickPoint\n");
+    EXPECT_THAT(Traced(R"({"op":"MoveEditor","x":-1000,"y":-500})"), testing::Not(HasSubstr("undo")))
+        << "one command for the run";
     Play(R"({"op":"UpEditor","x":0,"y":0})");
     EXPECT_EQ(box.Points(), (TKSLPtoA{{12000, 10500}, {22000, 20500}}));
-    Traced(R"({"op":"Undo"})");
-    EXPECT_EQ(trace, "  undo empty, redo filled\n"
-                     "  chPaint 1 -> editor preview\n"
-                     "  undo empty, redo filled\n"
-                     "  = eaSelection edPickPoint\n");
+    EXPECT_EQ(Traced(R"({"op":"Undo"})"), "  undo empty, redo filled\n"
+                                          "  chPaint 1 -> editor preview\n"
+                                          "  undo empty, redo filled\n"
+                                          "  = eaSelection edPickPoint\n");
     EXPECT_EQ(box.Points(), (TKSLPtoA{{10000, 10000}, {20000, 20000}}));
 }
 
 TEST_F(Sessions, ADeletionTellsInThisOrder) {
     label.CreateLine(0, 0, 5000, 5000);
     label.CreateLine(9000, 0, 5000, 5000);
-    Play(R"({"op":"AddToSelection","item":2})"
-         "\n"
-         R"({"op":"AddToSelection","item":1})");
+    Play(R"({"op":"AddToSelection","item":2}
+            {"op":"AddToSelection","item":1})");
     label.Clear({cleUndoRedo}, false);
-    Traced(R"({"op":"DeleteSelection"})");
-    EXPECT_EQ(trace, "  unselect Line002\n"
-                     "  unselect Line001\n"
-                     "  undo filled, redo empty\n"
-                     "  undo filled, redo empty\n"
-                     "  chSelect -> editor inspector\n"
-                     "  = eaSelection edPickPoint\n");
+    EXPECT_EQ(Traced(R"({"op":"DeleteSelection"})"), "  unselect Line002\n"
+                                                     "  unselect Line001\n"
+                                                     "  undo filled, redo empty\n"
+                                                     "  undo filled, redo empty\n"
+                                                     "  chSelect -> editor inspector\n"
+                                                     "  = eaSelection edPickPoint\n");
 }
 
 // The left button goes up
@@ -263,8 +247,7 @@ TEST_F(Sessions, ARectangleSelectsByItsDirection) {
     EXPECT_EQ(drag({1000, 1000}, {1000, 1000}), 0);
     // The release of a click that hit an item.
     Play(Event("PickEditor", {10000, 15000}) + "\n" + R"({"op":"expect","selected":[1]})");
-    Traced(Event("UpEditor", {90000, 90000}));
-    EXPECT_EQ(trace, "  = eaSelection edPickPoint\n");
+    EXPECT_EQ(Traced(Event("UpEditor", {90000, 90000})), "  = eaSelection edPickPoint\n");
     EXPECT_EQ(label.SelectionCount(), 1);
     EXPECT_EQ(TAct::NumPoints(), 0);
 }
@@ -302,21 +285,15 @@ TEST_F(Sessions, AReleaseClosesEachKindOfDrag) {
 }
 
 TEST_F(Sessions, AMovedTextIsOpenedAgain) {
-    Play(R"({"op":"SetAction","action":"eaText"})"
-         "\n" +
-         Event("PickEditor", {5000, 5000}));
-    Play(R"({"op":"SetMove","type":"mtText"})"
-         "\n"
-         R"({"op":"SetAction","action":"eaMoveText"})");
-    Traced(R"({"op":"UpEditor","x":0,"y":0})");
-    EXPECT_THAT(trace, HasSubstr("  chInspect -> inspector\n"
-                                 "  chPropItem -> editor inspector\n"));
+    Play(Tool("eaText") + "\n" + Event("PickEditor", {5000, 5000}));
+    Play(R"({"op":"SetMove","type":"mtText"}
+            {"op":"SetAction","action":"eaMoveText"})");
+    EXPECT_THAT(Traced(R"({"op":"UpEditor","x":0,"y":0})"), HasSubstr("  chInspect -> inspector\n"
+                                                                      "  chPropItem -> editor inspector\n"));
     EXPECT_EQ(Where(), "eaEdText edEditing");
-    Play(R"({"op":"ResetAction"})"
-         "\n"
-         R"({"op":"SetAction","action":"eaMoveText"})"
-         "\n"
-         R"({"op":"UpEditor","x":0,"y":0})");
+    Play(R"({"op":"ResetAction"}
+            {"op":"SetAction","action":"eaMoveText"}
+            {"op":"UpEditor","x":0,"y":0})");
     EXPECT_EQ(Where(), "eaText edPickPoint");
 
     // The text of a record is not written by hand, also while there are no records.
@@ -334,20 +311,17 @@ TEST_F(Sessions, AMovedTextIsOpenedAgain) {
 TEST_F(Sessions, TheRightButtonAddsVerticesAndLeaves) {
     TVGRBaseItem& chain = label.CreatePolyLine({{0, 0}, {10000, 0}, {10000, 10000}});
     label.SetSelection(&chain, isSelected);
-    Traced(Event("RightButton", {5000, 200}));
-    EXPECT_EQ(trace, "  chPropItem -> editor inspector\n"
-                     "  chCursor eaSelection edPickPoint -> editor\n"
-                     "  info \"Selection\" \"Select point\"\n"
-                     "  = eaSelection edPickPoint\n");
+    EXPECT_EQ(Traced(Event("RightButton", {5000, 200})), "  chPropItem -> editor inspector\n"
+                                                         "  chCursor eaSelection edPickPoint -> editor\n"
+                                                         "  info \"Selection\" \"Select point\"\n"
+                                                         "  = eaSelection edPickPoint\n");
     EXPECT_EQ(chain.Points(), (TKSLPtoA{{0, 0}, {5000, 200}, {10000, 0}, {10000, 10000}}));
     EXPECT_EQ(label.SelPointCount(), 4);
     Play(Event("RightButton", {5000, 9000}));
     EXPECT_EQ(chain.NumPoints(), 4) << "beside it";
     EXPECT_EQ(label.SelectionCount(), 0) << "which leaves";
 
-    Play(R"({"op":"SetAction","action":"eaPolygon"})"
-         "\n" +
-         Event("RightButton", {1, 1}));
+    Play(Tool("eaPolygon") + "\n" + Event("RightButton", {1, 1}));
     EXPECT_EQ(Where(), "eaSelection edPickPoint");
     Play(Event("RightButton", {50000, 1}));
     EXPECT_EQ(Where(), "eaPolygon edPickFirst") << "the tool comes back";
@@ -358,7 +332,7 @@ TEST_F(Sessions, ReferencesAreChosenBeforeTheCut) {
     label.CreateLine(0, 0, 20000, 0);
     label.CreateLine(5000, 5000, 5000, 20000);
     for (const char* action : {"eaTrim", "eaExtend"}) {
-        Play(R"({"op":"SetAction","action":")" + std::string(action) + R"("})");
+        Play(Tool(action));
         Play(Event("PickEditor", {9000, 9000}));
         EXPECT_EQ(TAct::GetState(), edPickRef) << "a miss";
         Play(Event("PickEditor", {9000, 0}));
@@ -374,26 +348,13 @@ TEST_F(Sessions, ReferencesAreChosenBeforeTheCut) {
         EXPECT_EQ(label.SelectionCount(), 0);
     }
     // Without Shift the second pick of the trimmer cuts at once, where it hits.
-    Play(R"({"op":"SetAction","action":"eaTrim"})"
-         "\n" +
-         Event("PickEditor", {9000, 0}) + "\n" + Event("PickEditor", {50000, 50000}));
+    Play(Tool("eaTrim") + "\n" + Event("PickEditor", {9000, 0}) + "\n" + Event("PickEditor", {50000, 50000}));
     EXPECT_EQ(Where(), "eaTrim edPickNextRef");
-    Play(R"({"op":"SetAction","action":"eaJoin"})"
-         "\n" +
-         Event("PickEditor", {50000, 50000}));
+    Play(Tool("eaJoin") + "\n" + Event("PickEditor", {50000, 50000}));
     EXPECT_EQ(Where(), "eaJoin edFirstRef");
-    Play(R"({"op":"ClearSelection"})"
-         "\n" +
-         Event("PickEditor", {9000, 0}));
+    Play(R"({"op":"ClearSelection"})");
+    Play(Event("PickEditor", {9000, 0}));
     EXPECT_EQ(Where(), "eaJoin edSecondRef");
-    Play(R"({"op":"SetAction","action":"eaEquidist"}
-            {"op":"ClearSelection"}
-            {"op":"PickEditor","x":9000,"y":0}
-            {"op":"expect","state":"edPick1Distance","selection":1}
-            {"op":"PickEditor","x":0,"y":0}
-            {"op":"PickEditor","x":0,"y":3000}
-            {"op":"expect","state":"edPickSide"})");
-    EXPECT_EQ(TAct::Distance(0, 1), 3000);
 }
 
 TEST_F(Sessions, AFixedDocumentOnlySelects) {

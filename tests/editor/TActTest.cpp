@@ -112,19 +112,6 @@ TEST_F(Act, EveryToolStepsAsItsScriptSays) {
         EXPECT_TRUE(seen.contains(std::string(EnumName(TKSLEdAction(action))))) << EnumName(TKSLEdAction(action));
 }
 
-TEST_F(Act, AFlowShapePreviewsItsOutline) {
-    constexpr TKSLDrawType outlines[] = {dtTerminator, dtRect,        dtDocument, dtDocument, dtDiamond,
-                                         dtData,       dtRect,        dtRect,     dtRect,     dtRect,
-                                         dtHexagon,    dtFlowEllipse, dtStart,    dtStep,     dtEnd};
-    for (int type = ftTerminator; type <= ftEnd; ++type) {
-        TAct::Reset();
-        TAct::SetFlowType(TKSLFlowType(type));
-        TAct::SetCurAction(eaFlow);
-        TAct::AddPoint(1, 1);
-        EXPECT_EQ(TAct::GetDrawType(), outlines[type]) << EnumName(TKSLFlowType(type));
-    }
-}
-
 TEST_F(Act, AnotherActionDropsPicksAndTheSameOneKeepsThem) {
     TAct::SetCurAction(eaLine);
     TAct::AddPoint(1, 1);
@@ -134,24 +121,6 @@ TEST_F(Act, AnotherActionDropsPicksAndTheSameOneKeepsThem) {
     TAct::SetCurAction(eaCirclePR);
     EXPECT_EQ(TAct::NumPoints(), 0);
     EXPECT_EQ(TAct::GetDrawType(), dtNone);
-}
-
-TEST_F(Act, AMovedVertexStaysKnown) {
-    TAct::SetMove(mtPolyPoint, 5);
-    TAct::DataBase(2, 8, 9);
-    TAct::AddPoint(1, 1);
-    TAct::ResetPoly();
-    EXPECT_EQ(Where(), "eaSelection edPickPoint");
-    EXPECT_EQ(TAct::GetPos1(), 5);
-    EXPECT_EQ(TAct::GetMoveType(), mtPolyPoint);
-    EXPECT_EQ(TAct::GetEditor(), seDrag);
-    EXPECT_EQ(TAct::NumPoints(), 0);
-    EXPECT_EQ(TAct::GetBaseY(2), 9);
-    TAct::Reset();
-    EXPECT_EQ(TAct::GetPos1(), 0);
-    EXPECT_EQ(TAct::GetMoveType(), mtNone);
-    EXPECT_EQ(TAct::GetEditor(), seSelect);
-    EXPECT_EQ(TAct::GetBaseY(2), 0);
 }
 
 TEST_F(Act, MeasuresAndOrdersPicks) {
@@ -182,12 +151,6 @@ TEST_F(Act, TellsCaptionsAndPrompts) {
     EXPECT_EQ(TAct::SetCurAction(eaDimRad1).sState, u"Select Circle");
     EXPECT_EQ(TAct::SetCurAction(eaPolyLink).aAction, u"Draw Link");
     EXPECT_EQ(TAct::SetMove(mtSE, 0).aAction, u"Move");
-    const std::u16string missing = TVGRMsg::GetActionsValue(u"no such key");
-    for (int action = eaNone; action <= eaDimAng; ++action) {
-        const TKSLSInfo info = TAct::SetCurAction(TKSLEdAction(action));
-        EXPECT_NE(info.aAction, missing) << EnumName(TKSLEdAction(action));
-        EXPECT_NE(info.sState, missing) << EnumName(TKSLEdAction(action));
-    }
     const std::pair<TKSLMoveType, const char16_t*> moves[] = {
         {mtNone, u""},        {mtObjects, u"Objects"}, {mtNW, u"Objects"},   {mtSE, u"Objects"},
         {mtText, u"Objects"}, {mtRadio, u"Radio"},     {mtRadioY, u"Radio"}, {mtBezierCtrl, u"Point"},
