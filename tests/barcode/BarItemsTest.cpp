@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The items of barcodes: limits, sizes, place, files, data, and SVG whose rectangles a decoder reads.
+// The items of barcodes: limits, sizes, place, data, and SVG whose rectangles a decoder reads.
 #include "SvgReadBack.h"
 
 #include <tests/support/TestHost.h>
@@ -10,9 +10,7 @@
 #include <vagrel/barcode/TVGRBaseQRCode.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Text.h>
-#include <vagrel/merge/TVGRCounter.h>
 #include <vagrel/merge/TVGRData.h>
-#include <vagrel/persistence/TBinaryWriter.h>
 #include <vagrel/persistence/TJsonObject.h>
 
 #include <gtest/gtest.h>

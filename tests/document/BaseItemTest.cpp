@@ -2,8 +2,6 @@
 // The rules that all items share, told by type alone.
 #include <tests/document/ProbeItem.h>
 
-#include <vagrel/persistence/TBinaryWriter.h>
-
 #include <gtest/gtest.h>
 
 namespace vagrel {

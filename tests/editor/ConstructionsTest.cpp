@@ -15,7 +15,7 @@ using TBase = std::int64_t;
 
 class NotingHost final : public TestHost {
 public:
-    NotingHost() : TestHost(emDrawing, unMM, 1) { GetMeasure().SetLabelSizeMM(400, 400); }
+    using TestHost::TestHost;
 
     std::string called;
 
@@ -58,25 +58,17 @@ private:
     }
 };
 
-class Constructions : public testing::Test {
+class Constructions : public SessionsOn<NotingHost> {
 protected:
-    ~Constructions() override { TAct::ResetForTests(); }
-
-    void Play(const std::string& lines) { session.Play(lines); }
     /// Draws with a tool and answers the changes told behind the last pick.
     std::string Draw(const std::string& action, const TKSLPtoA& picks, const std::string& more = "") {
         Play(Tool(action));
         for (const TKSLPto pick : picks) {
-            trace.clear();
             const std::string event = Event("PickEditor", pick);
-            Play(event.substr(0, event.size() - 1) + more + "}");
+            Traced(event.substr(0, event.size() - 1) + more + "}");
         }
         return trace;
     }
-
-    NotingHost label;
-    std::string trace;
-    Session session{label, [this](const std::string& line) { trace += line + "\n"; }};
 };
 
 TEST_F(Constructions, PicksReachTheFactories) {

@@ -81,13 +81,6 @@ TEST_F(Drag, BoxHandlesMoveTheirEdges) {
             << row.type;
         EXPECT_EQ(Told(), (TChanges{chPaint, chPropItem})) << row.type;
     }
-    box.AssignPoints({{10000, 10000}, {20000, 15000}});
-    Begin(mtSE);
-    Step(90000, 90000);
-    EXPECT_EQ(box.GetPoint(2), (TKSLPto{60000, 35000}));
-    Begin(mtW);
-    Step(-90000, 0);
-    EXPECT_EQ(box.GetPoint(1), (TKSLPto{0, 10000}));
 }
 
 TEST_F(Drag, ArrowKeysGoToTheNextLineOfTheGrid) {

@@ -3,7 +3,6 @@
 #include <tests/editor/EditorFixture.h>
 
 #include <vagrel/document/TVGRLayer.h>
-#include <vagrel/foundation/Exceptions.h>
 
 namespace vagrel::test {
 namespace {

@@ -30,10 +30,11 @@ inline std::string Where() {
     return std::string(EnumName(TAct::GetAction())) + " " + std::string(EnumName(TAct::GetState()));
 }
 
-class Sessions : public testing::Test {
+template <class Host>
+class SessionsOn : public testing::Test {
 protected:
-    Sessions() { label.GetMeasure().SetLabelSizeMM(400, 400); }
-    ~Sessions() override { TAct::ResetForTests(); }
+    SessionsOn() { label.GetMeasure().SetLabelSizeMM(400, 400); }
+    ~SessionsOn() override { TAct::ResetForTests(); }
 
     void Play(const std::string& lines) { session.Play(lines); }
     /// What a line causes.
@@ -46,10 +47,12 @@ protected:
     struct TReset {
         TReset() { TAct::ResetForTests(); }
     } reset; ///< before the document begins its action
-    TestHost label{emDrawing, unMM, 1};
+    Host label{emDrawing, unMM, 1};
     std::string trace;
     Session session{label, [this](const std::string& line) { trace += line + "\n"; }};
 };
+
+class Sessions : public SessionsOn<TestHost> {};
 
 } // namespace test
 } // namespace vagrel

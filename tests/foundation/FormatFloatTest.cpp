@@ -67,15 +67,23 @@ TEST(FormatFloat, WritesByPattern) {
 TEST(AppendFixed, AgreesWithThePatternForAnyDouble) {
     std::mt19937_64 random(20);
     const std::u16string pattern = u"0.000000000";
+    const auto compare = [&](double value, int decimals) {
+        const std::u16string_view cut(pattern.data(), decimals == 0 ? 1 : std::size_t(decimals) + 2);
+        ASSERT_EQ(Fixed(value, decimals), ToUtf8(FormatFloat(cut, value))) << std::hexfloat << value << ' ' << decimals;
+    };
+    for (const double value : {1.005, -0.4, -0.0, 0.99999, 9.5, 5e-324, 2251799813685248.5, -9007199254740993.0,
+                               9223372036854775808.0, 1e23, 8388607.0000000005, 4194303.0000000005})
+        for (int decimals = 0; decimals < 10; ++decimals)
+            compare(value, decimals);
+    EXPECT_EQ(Fixed(8388607.0000000005, 9), "8388607.000000001");
+    EXPECT_EQ(Fixed(4194303.0000000005, 9), "4194303.000000000");
     for (int i = 0; i < 20000; ++i) {
         const int decimals = int(random() % 10);
         double value = std::bit_cast<double>(random());
         if (i % 2 == 0)
             value = double(std::int64_t(random()) >> (random() % 60)) / double(1 << (random() % 12));
-        if (!std::isfinite(value))
-            continue;
-        const std::u16string_view cut(pattern.data(), decimals == 0 ? 1 : std::size_t(decimals) + 2);
-        ASSERT_EQ(Fixed(value, decimals), ToUtf8(FormatFloat(cut, value))) << std::hexfloat << value << ' ' << decimals;
+        if (std::isfinite(value))
+            compare(value, decimals);
     }
 }
 

@@ -3,10 +3,8 @@
 #include <tests/support/TestHost.h>
 
 #include <vagrel/document/TVGRBaseItem.h>
-#include <vagrel/document/TVGRLayer.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
-#include <vagrel/persistence/TBinaryWriter.h>
 #include <vagrel/platform/Files.h>
 
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The single-line text: limits, place, binding, files and SVG. A fixed measurer gives every code unit 0.6 em.
+// The single-line text: limits, place, binding and SVG. A fixed measurer gives every code unit 0.6 em.
 #include <tests/support/TestHost.h>
 
 #include <host/HostItem.h>
@@ -9,8 +9,6 @@
 #include <vagrel/items/text/LabelPosition.h>
 #include <vagrel/items/text/TVGRBaseText.h>
 #include <vagrel/merge/TVGRData.h>
-#include <vagrel/persistence/TBinaryWriter.h>
-#include <vagrel/persistence/TJsonObject.h>
 
 #include <gtest/gtest.h>
 
