@@ -60,17 +60,11 @@ TEST_F(Picking, ASecondClickPicksUpAndShiftAddsAndTakesOut) {
     Click({45000, 10000}, {ssShift});
     EXPECT_EQ(Selection(), (TItems{&low, &line}));
     Told(), Events();
-
-    std::u16string state;
-    label.OnInfoMsg = [&](TVGRBaseLabel&, const std::u16string& action, const std::u16string& prompt) {
-        state = action + u"/" + prompt;
-    };
     EXPECT_TRUE(Click({11000, 11000}));
     EXPECT_EQ(Selection(), (TItems{&low, &line}));
     EXPECT_EQ(Told(), TChanges{chPickSel});
     EXPECT_EQ(TAct::GetAction(), eaMove);
     EXPECT_EQ(TAct::GetMoveType(), mtObjects);
-    EXPECT_EQ(state, u"Move/Objects");
 
     TAct::Reset();
     EXPECT_TRUE(Click({11000, 11000}, {ssShift}));
