@@ -5,7 +5,6 @@
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/items/text/LabelPosition.h>
-#include <vagrel/merge/FillSymbols.h>
 #include <vagrel/merge/TVGRData.h>
 #include <vagrel/persistence/TJsonObject.h>
 
@@ -137,7 +136,7 @@ TKSLRect TVGRBaseCode::Place(const TKSLRect& rect) const {
 
 TKSLFillType TVGRBaseCode::FillType() const { return fOwner.GetData().GetLinkData() ? fBinding.type : ftNone; }
 
-std::u16string TVGRBaseCode::SymFillName() const { return IncSymData(FillType(), fBinding.field); }
+std::u16string TVGRBaseCode::SymFillName() const { return fBinding.Symbolic(); }
 
 void TVGRBaseCode::SetData(TKSLFillType type, std::u16string_view name, std::u16string_view format) {
     fBinding.Set(type, name, format);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Bindings and their forms in files.
 #include <vagrel/items/TDataBinding.h>
 
 #include <vagrel/merge/FillSymbols.h>
@@ -21,6 +22,8 @@ void TDataBinding::Set(TKSLFillType source, std::u16string_view name, std::u16st
     type = marked ? TKSLFillType(symbol) : source;
     field = marked ? name.substr(1) : name;
 }
+
+std::u16string TDataBinding::Symbolic() const { return IncSymData(type, field); }
 
 void TDataBinding::WriteJson(TJsonObject& parent) const {
     TJsonObject& data = parent.AddObject(u"Data");

@@ -22,6 +22,8 @@ struct TDataBinding {
     /// text "Unassign" of the lists ends the binding.
     void Set(TKSLFillType source, std::u16string_view name, std::u16string_view pattern);
     bool IsSet() const { return type != ftNone && !field.empty(); }
+    /// The field with the symbol of its source in front.
+    std::u16string Symbolic() const;
 
     /// Stores the object "Data" in `parent`.
     void WriteJson(TJsonObject& parent) const;

@@ -8,9 +8,7 @@
 #include <vagrel/foundation/TVGRBaseDraw.h>
 #include <vagrel/foundation/Units.h>
 #include <vagrel/items/text/LabelPosition.h>
-#include <vagrel/merge/FillSymbols.h>
 #include <vagrel/merge/TVGRData.h>
-#include <vagrel/messages/TVGRMsg.h>
 
 #include <algorithm>
 
@@ -35,8 +33,8 @@ void TVGRBaseText::SetText(std::u16string_view value) {
     TVGRTxtCmd::AddCommand(*this, cmd::Text);
     fText = value;
     if (FillType() != ftNone && !fText.empty()) {
-        fField.clear();
-        fFillType = ftNone;
+        fBinding.type = ftNone;
+        fBinding.field.clear();
         aIsData = false;
     }
     dText = fText;
@@ -163,22 +161,12 @@ void TVGRBaseText::SetBaseRadio(std::int64_t value) {
 
 // Data
 
-TKSLFillType TVGRBaseText::FillType() const { return fOwner.GetData().GetLinkData() ? fFillType : ftNone; }
+TKSLFillType TVGRBaseText::FillType() const { return fOwner.GetData().GetLinkData() ? fBinding.type : ftNone; }
 
-std::u16string TVGRBaseText::SymFillName() const { return IncSymData(fFillType, fField); }
+std::u16string TVGRBaseText::SymFillName() const { return fBinding.Symbolic(); }
 
 void TVGRBaseText::SetData(TKSLFillType type, std::u16string_view name, std::u16string_view format) {
-    fFillType = ftNone;
-    if (name.find(TVGRMsg::GetListValue(u"Unassign")) != std::u16string_view::npos) {
-        fField.clear();
-    } else {
-        // A blank stands for the kinds without a symbol.
-        const std::size_t symbol = name.empty() || name[0] == u' ' ? FillSymbols.npos : FillSymbols.find(name[0]);
-        const bool marked = symbol != FillSymbols.npos;
-        fFillType = marked ? TKSLFillType(symbol) : type;
-        fField = marked ? name.substr(1) : name;
-    }
-    fFormat = format;
+    fBinding.Set(type, name, format);
     ShowBinding();
     fText = dText;
     StateCalc();
@@ -188,16 +176,16 @@ void TVGRBaseText::SetData(TKSLFillType type, std::u16string_view name, std::u16
 
 // A bound text shows the name of its field until a record fills it.
 void TVGRBaseText::ShowBinding() {
-    dText = fFillType != ftNone ? fField : fText;
-    aIsData = fFillType != ftNone && !fField.empty();
+    dText = fBinding.type != ftNone ? fBinding.field : fText;
+    aIsData = fBinding.IsSet();
 }
 
-bool TVGRBaseText::GetIsData() const { return aIsData && fOwner.GetData().IsValidData(fFillType, fField); }
+bool TVGRBaseText::GetIsData() const { return aIsData && fOwner.GetData().IsValidData(fBinding.type, fBinding.field); }
 
 void TVGRBaseText::FillData(bool first) {
-    if (!fOwner.GetData().IsValidData(FillType(), fField))
+    if (!fOwner.GetData().IsValidData(FillType(), fBinding.field))
         return;
-    dText = fOwner.DataValue(fField, fFormat, FillType());
+    dText = fOwner.DataValue(fBinding.field, fBinding.format, FillType());
     // An export writes the text that an item holds.
     if (fFromPreview)
         fText = dText;

@@ -5,6 +5,7 @@
 #include <vagrel/document/TFont.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRCmd.h>
+#include <vagrel/items/TDataBinding.h>
 
 namespace vagrel {
 
@@ -93,9 +94,9 @@ public:
     // Data
 
     TKSLFillType FillType() const override;
-    std::u16string FillName() const override { return fField; }
+    std::u16string FillName() const override { return fBinding.field; }
     std::u16string SymFillName() const override;
-    std::u16string GetFormat() const override { return fFormat; }
+    std::u16string GetFormat() const override { return fBinding.format; }
     /// Binds to a field: a leading "@", "{", "~", "=", "?" or "^" of the name tells the source, else `type` does.
     void SetData(TKSLFillType type, std::u16string_view name, std::u16string_view format) override;
     bool GetIsData() const override;
@@ -149,8 +150,7 @@ private:
     TKSLHorzAlign fHorzAlign = haLeft;
     TKSLVertAlign fVertAlign = vaTop;
     std::int32_t fPaddingX = 0, fPaddingY = 0;
-    std::u16string fField, fFormat;
-    TKSLFillType fFillType = ftNone;
+    TDataBinding fBinding;
     TTextMeasure fMeasured;
     float fScaleX = 1;
     std::u16string dText;

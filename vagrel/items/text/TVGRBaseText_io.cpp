@@ -29,10 +29,7 @@ void TVGRBaseText::WriteKeys(TJsonObject& json) const {
     json.SetBool(u"Filled", fFill);
     SetAlphaColor(json, u"BackColor", fBackColor);
     json.SetString(u"Text", fText);
-    TJsonObject& data = json.AddObject(u"Data");
-    data.SetString(u"Field", fField);
-    data.SetString(u"Format", fFormat);
-    data.SetInt(u"FillType", fFillType);
+    fBinding.WriteJson(json);
 }
 
 void TVGRBaseText::ReadKeys(std::int32_t, TJsonObject& json) {
@@ -48,10 +45,7 @@ void TVGRBaseText::ReadKeys(std::int32_t, TJsonObject& json) {
     fFill = json.GetBool(u"Filled");
     fBackColor = GetAlphaColor(json.GetObject(u"BackColor"));
     fText = json.GetString(u"Text");
-    TJsonObject& data = json.GetObject(u"Data");
-    fField = data.GetString(u"Field");
-    fFormat = data.GetString(u"Format");
-    fFillType = TKSLFillType(data.GetInt(u"FillType"));
+    fBinding.ReadJson(json);
     ShowBinding();
     StateCalc();
 }
@@ -71,9 +65,8 @@ void TVGRBaseText::WriteFields(TBinaryWriter& writer) const {
     writer.Write(fFont.color);
     writer.Write(fBackColor);
     writer.Write(fFill);
-    for (const std::u16string* text : {&fText, &fField, &fFormat})
-        writer.Write(*text);
-    writer.Write(std::int16_t(fFillType));
+    writer.Write(fText);
+    fBinding.WriteData(writer);
     writer.Write(std::int16_t(fHorzAlign));
     writer.Write(std::int16_t(fVertAlign));
 }
@@ -91,9 +84,8 @@ void TVGRBaseText::ReadFields(std::int32_t, TBinaryReader& reader) {
     fFont.color = reader.Read<TAlphaColor>();
     fBackColor = reader.Read<TAlphaColor>();
     fFill = reader.ReadBool();
-    for (std::u16string* text : {&fText, &fField, &fFormat})
-        *text = reader.ReadString();
-    fFillType = TKSLFillType(reader.Read<std::int16_t>());
+    fText = reader.ReadString();
+    fBinding.ReadData(reader);
     fHorzAlign = TKSLHorzAlign(reader.Read<std::int16_t>());
     fVertAlign = TKSLVertAlign(reader.Read<std::int16_t>());
     ShowBinding();
