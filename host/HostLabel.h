@@ -24,6 +24,7 @@ public:
     /// of the context's cell stand for the items that are bound to data.
     void PaintItems(const CairoDraw& draw) const;
     /// Makes the preview copies anew: one of each item that is bound to data for each cell of the sheet.
+    /// Throws EOutOfRange for a sheet of more than 10,000 cells.
     void MakePreview();
 
     /// Reads a document, JSON or binary by its first character. Throws EVagrel with the file and the place in it; the

@@ -18,6 +18,8 @@ namespace vagrel {
 namespace {
 
 constexpr double ScreenDpi = 96;
+// Far above any sheet; a damaged file can ask for 2^62.
+constexpr std::int64_t MostCells = 10000;
 
 TPageKind KindOf(TKSLExport type) {
     switch (type) {
@@ -48,6 +50,8 @@ void HostLabel::PaintItems(const CairoDraw& draw) const {
 void HostLabel::MakePreview() {
     Clear({clePreview}, false);
     const std::int32_t rows = GetMeasure().GetNuHor(), columns = GetMeasure().GetNuVer();
+    if (std::int64_t(rows) * columns > MostCells)
+        throw EOutOfRange(u"A sheet of " + IntToStr(rows) + u" x " + IntToStr(columns) + u" labels is too large");
     for (int i = 1; i <= ItemsCount(); ++i) {
         const TVGRBaseItem& item = *GetItem(i);
         if (!item.IsBound())

@@ -108,6 +108,9 @@ TEST_F(SheetTest, LeavesNothingOfAnExportThatFails) {
         pages->Add(label);
     }
     EXPECT_EQ(Files(), std::vector<std::string>{});
+    label.GetMeasure().SetNuHor(2'000'000'000);
+    EXPECT_THROW(label.ExportDoc(exPDF, File("x.pdf"), 1, 1, 90, true, false, false), EOutOfRange);
+    EXPECT_EQ(Files(), std::vector<std::string>{});
     EXPECT_THROW(PageKindOf("label.gif"), EVagrel);
     EXPECT_EQ(PageKindOf("a.b/label"), TPageKind::Svg);
     EXPECT_EQ(PageKindOf("LABEL.JPEG"), TPageKind::Jpeg);
