@@ -97,8 +97,9 @@ private:
     void ReadBracket(const std::function<void()>& read);
     /// The next item of a snapshot or of the clipboard; none is left when it is damaged.
     TVGRBaseItem& ReadItem(std::int32_t version, TBinaryReader& reader, TKSLReadType type);
-    /// An item on the active layer at the given points.
-    TVGRBaseItem& Make(TKSLItemType type, const TKSLPtoA& points = {});
+    /// An item on the active layer at the given points, which `finish` completes before anybody is told of it.
+    TVGRBaseItem& Make(TKSLItemType type, const TKSLPtoA& points = {},
+                       const std::function<void(TVGRBaseItem&)>& finish = {});
 
     const TextMeasurer& fMeasurer;
 };

@@ -25,11 +25,12 @@ TKSLPtoA Box(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t he
     return {{x, y}, {AddSat(x, width), AddSat(y, height)}};
 }
 
-// A new symbol of a text, which does not wait for the end of a bracket.
-TVGRBaseItem& Coded(TVGRBaseItem& item, std::u16string_view text) {
-    dynamic_cast<TVGRBaseCode&>(item).SetCode(text);
-    item.CalcValues(2);
-    return item;
+// Gives a new symbol its text; it does not wait for the end of a bracket.
+auto Coded(std::u16string_view text) {
+    return [text](TVGRBaseItem& item) {
+        dynamic_cast<TVGRBaseCode&>(item).SetCode(text);
+        item.CalcValues(2);
+    };
 }
 
 struct TCircle {
@@ -53,11 +54,15 @@ TCircle Through(TKSLPto a, TKSLPto b, TKSLPto c) {
 
 } // namespace
 
-TVGRBaseItem& HostLabel::Make(TKSLItemType type, const TKSLPtoA& points) {
-    TVGRBaseItem& item = MakeItem(*this, ActiveLayer(), type, int(points.size()));
-    item.AssignPoints(points);
-    item.StateUpdate();
-    return item;
+TVGRBaseItem& HostLabel::Make(TKSLItemType type, const TKSLPtoA& points,
+                              const std::function<void(TVGRBaseItem&)>& finish) {
+    return NewItem([&]() -> TVGRBaseItem& { return MakeItem(*this, ActiveLayer(), type, int(points.size())); },
+                   [&](TVGRBaseItem& item) {
+                       item.AssignPoints(points);
+                       if (finish)
+                           finish(item);
+                       item.StateUpdate();
+                   });
 }
 
 TVGRBaseItem& HostLabel::CreatePoint(std::int64_t x, std::int64_t y) { return Make(itPoint, {{x, y}}); }
@@ -89,10 +94,11 @@ TVGRBaseItem& HostLabel::CreateCircle3P(TKSLPto first, TKSLPto second, TKSLPto t
 }
 
 TVGRBaseItem& HostLabel::CreateSector(TKSLPto center, std::int64_t radius, float start, float end) {
-    auto& sector = dynamic_cast<TVGRBaseSector&>(Make(itSector, Around(center, radius, radius)));
-    sector.SetStartAngle(start);
-    sector.SetSweepAngle(end - start);
-    return sector;
+    return Make(itSector, Around(center, radius, radius), [=](TVGRBaseItem& item) {
+        auto& sector = dynamic_cast<TVGRBaseSector&>(item);
+        sector.SetStartAngle(start);
+        sector.SetSweepAngle(end - start);
+    });
 }
 
 TVGRBaseItem& HostLabel::CreateSector2P(TKSLPto first, TKSLPto second, float start, float end) {
@@ -110,27 +116,26 @@ TVGRBaseItem& HostLabel::CreateEllipse(TKSLPto center, std::int64_t radiusX, std
 }
 
 TVGRBaseItem& HostLabel::CreateBarcode(std::int64_t x, std::int64_t y, std::u16string_view text, TKSLBarType type) {
-    auto& barcode = dynamic_cast<TVGRBaseBarcode&>(Make(itBarcode, {{x, y}}));
-    barcode.SetCodeType(type);
-    return Coded(barcode, text);
+    return Make(itBarcode, {{x, y}}, [=](TVGRBaseItem& item) {
+        dynamic_cast<TVGRBaseBarcode&>(item).SetCodeType(type);
+        Coded(text)(item);
+    });
 }
 
 TVGRBaseItem& HostLabel::CreatePDF417(std::int64_t x, std::int64_t y, std::u16string_view text) {
-    return Coded(Make(itPDF417, {{x, y}}), text);
+    return Make(itPDF417, {{x, y}}, Coded(text));
 }
 
 TVGRBaseItem& HostLabel::CreateDataMatrix(std::int64_t x, std::int64_t y, std::u16string_view text) {
-    return Coded(Make(itDataMatrix, {{x, y}}), text);
+    return Make(itDataMatrix, {{x, y}}, Coded(text));
 }
 
 TVGRBaseItem& HostLabel::CreateQRCode(std::int64_t x, std::int64_t y, std::u16string_view text) {
-    return Coded(Make(itQRCode, {{x, y}}), text);
+    return Make(itQRCode, {{x, y}}, Coded(text));
 }
 
 TVGRBaseItem& HostLabel::CreateText(std::int64_t x, std::int64_t y) {
-    TVGRBaseItem& text = Make(itText, {{x, y}});
-    text.CalcValues(2);
-    return text;
+    return Make(itText, {{x, y}}, [](TVGRBaseItem& text) { text.CalcValues(2); });
 }
 
 // Families that the registry does not have yet.

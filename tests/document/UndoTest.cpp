@@ -179,20 +179,49 @@ TEST_F(Undo, AnItemThatWentWithoutACommandIsPassedOver) {
     label.FreeItem(box);
     EXPECT_EQ(UndoAll(label), 2);
     EXPECT_TRUE(label.IsRedoEmpty());
+}
 
-    // One with the number of the dead takes its commands.
-    TVGRBaseItem& first = label.CreatePoint(0, 0);
+TEST_F(Undo, AReplayCoalescesWithItsOwnStepAlone) {
     label.Clear({cleUndoRedo}, false);
-    first.SetColor(5);
-    const std::int32_t id = first.GetInID();
-    label.FreeItem(first);
-    TVGRBaseItem& second = label.CreatePoint(0, 0);
-    second.SetInID(id);
-    label.Undo(); // its creation
-    EXPECT_EQ(label.ItemsCount(), 0);
+    std::vector<std::u16string> states;
+    for (int i = 0; i < 3; ++i) { // move, undo, move, undo ...
+        line.BaseMove(1000 * (i + 1), 0, 0, 0, moAll, true);
+        states.push_back(JsonOf(label));
+        label.Undo();
+    }
     label.Redo();
-    label.GetItem(1)->SetColor(9);
-    UndoAll(label);
+    EXPECT_EQ(JsonOf(label), states[2]);
+}
+
+TEST_F(Undo, WhatSettersCutToThePageComesBackExactly) {
+    TVGRBaseItem& circle = label.CreateCircle({20333, 17777}, 4001);
+    TVGRBaseItem& slice = label.CreateSector({30001, 9999}, 5003, 10, 200);
+    for (TVGRBaseItem* item : {&circle, &slice}) {
+        item->AssignPoints({{-7001, 900000001}, {2001, 900009003}}); // off the page
+        label.Clear({cleUndoRedo}, false);
+        const TKSLPtoA far = item->Points();
+        Query<IKSLCenter>(item)->SetCenterX(20);
+        Query<IKSLCenter>(item)->SetCenterY(20);
+        TVGRBaseValueCmd::AddCommand(*item, cmd::Radio);
+        item->AssignPoints({{0, 0}, {2002, 2002}});
+        const TKSLPtoA changed = item->Points();
+        for (int i = 0; i < 2; ++i) {
+            UndoAll(label);
+            EXPECT_EQ(item->Points(), far);
+            RedoAll(label);
+            EXPECT_EQ(item->Points(), changed);
+        }
+    }
+}
+
+TEST_F(Undo, ATextIsMeasuredAlsoWhileSelected) {
+    TVGRBaseItem& text = label.CreateText(20000, 20000);
+    Query<IKSLText>(&text)->SetText(u"short");
+    const TKSLRect before = text.BoundsRect();
+    Query<IKSLText>(&text)->SetText(u"quite a bit longer");
+    label.SetSelection(&text, isSelected);
+    label.Undo();
+    EXPECT_EQ(text.BoundsRect(), before);
 }
 
 TEST_F(Undo, PlacesOfPointsComeBackExactly) {
@@ -244,6 +273,7 @@ TEST_F(Undo, WhatThrowsInAConstructionLeavesNoCommand) {
     other.DeleteItem(other.CreatePoint(1, 1), false);
     EXPECT_THROW(other.Undo(), EStreamError);
     EXPECT_TRUE(other.IsRedoEmpty());
+    other.Clear({cleUndoRedo}, false);
     other.CreatePoint(2, 2); // recorded where it belongs
     EXPECT_TRUE(other.IsRedoEmpty());
     UndoAll(other);

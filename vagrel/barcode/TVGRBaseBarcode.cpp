@@ -65,33 +65,27 @@ void TVGRBaseBarcode::StoreCode(std::u16string_view value) {
 }
 
 void TVGRBaseBarcode::SetCodeType(TKSLBarType value) {
-    if (value == fCodeType)
+    if (!Store(fCodeType, value, {}, TFollow::None))
         return;
-    fCodeType = value;
     CheckFactor();
     CheckValid();
     StateCalc();
 }
 
 void TVGRBaseBarcode::SetCheckSum(bool value) {
-    if (value == fCheckSum)
+    if (!Store(fCheckSum, value, {}, TFollow::None))
         return;
-    fCheckSum = value;
     CheckValid();
     StateCalc();
 }
 
 void TVGRBaseBarcode::SetCheckType(TKSLCheckType value) {
-    if (value == fCheckType)
-        return;
-    fCheckType = value;
-    StateModified();
+    Store(fCheckType, value, {}, TFollow::Modified);
 }
 
 void TVGRBaseBarcode::SetIgnoreParentheses(bool value) {
-    if (value == fIgnoreParentheses)
+    if (!Store(fIgnoreParentheses, value, {}, TFollow::None))
         return;
-    fIgnoreParentheses = value;
     CheckValid();
     StateCalc();
 }
@@ -140,16 +134,13 @@ void TVGRBaseBarcode::SetFactor(float value) {
     StoreBars(fBarWidth, fBarHeight, Limited(value, fCodeType), cmd::Factor);
 }
 
-void TVGRBaseBarcode::SetDistance(float value) { StoreChoice(fDistance, ToBase(value)); }
+void TVGRBaseBarcode::SetDistance(float value) { Store(fDistance, ToBase(value), {}, TFollow::Calc); }
 
 void TVGRBaseBarcode::SetFontName(std::u16string_view value) {
-    if (value == fFontName)
-        return;
-    fFontName = value;
-    StateCalc();
+    Store(fFontName, std::u16string(value), {}, TFollow::Calc);
 }
 
-void TVGRBaseBarcode::SetFontHeight(float value) { StoreChoice(fFontHeight, std::max(ToBase(value), SmallestFont)); }
+void TVGRBaseBarcode::SetFontHeight(float value) { Store(fFontHeight, std::max(ToBase(value), SmallestFont), {}, TFollow::Calc); }
 
 float TVGRBaseBarcode::GetDrawValue(float value, int dpi) const { return fOwner.GetDrawValue(value, dpi); }
 

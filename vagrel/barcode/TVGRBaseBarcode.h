@@ -70,12 +70,12 @@ public:
     float GetFactor() const override { return fFactor; }
     void SetFactor(float value) override;
     TKSLHorzAlign GetHorzAlign() const override { return fHorzAlign; }
-    void SetHorzAlign(TKSLHorzAlign value) { StorePlace(fHorzAlign, value); }
+    void SetHorzAlign(TKSLHorzAlign value) { Store(fHorzAlign, value, {}, TFollow::Bounds); }
 
     // The digits
 
     bool GetShowNumber() const override { return fShowNumber; }
-    void SetShowNumber(bool value) { StoreChoice(fShowNumber, value); }
+    void SetShowNumber(bool value) { Store(fShowNumber, value, {}, TFollow::Calc); }
     /// The gap between bars and digits.
     float GetDistance() const { return ToUnit(fDistance); }
     std::int32_t BaseDistance() const { return fDistance; }

@@ -53,11 +53,12 @@ void TVGRBaseCode::StoreBars(std::int64_t width, std::int64_t height, float fact
     if (newWidth == fBarWidth && newHeight == fBarHeight && factor == fFactor)
         return;
     // What follows from the value is recorded in front of it, so that undo brings it back behind it.
-    if (newWidth != fBarWidth && index != cmd::BarWidth)
-        TVGRFloatCmd::AddCommand(*this, cmd::BarWidth);
-    if (newHeight != fBarHeight && index != cmd::BarHeight)
-        TVGRFloatCmd::AddCommand(*this, cmd::BarHeight);
-    TVGRFloatCmd::AddCommand(*this, index);
+    if (newWidth != fBarWidth && index != cmd::BarWidth && !Record(cmd::BarWidth))
+        return;
+    if (newHeight != fBarHeight && index != cmd::BarHeight && !Record(cmd::BarHeight))
+        return;
+    if (!Record(index))
+        return;
     fBarWidth = newWidth;
     fBarHeight = newHeight;
     fFactor = factor;
@@ -65,11 +66,8 @@ void TVGRBaseCode::StoreBars(std::int64_t width, std::int64_t height, float fact
 }
 
 void TVGRBaseCode::StorePadding(std::int32_t& field, float value) {
-    const std::int32_t base = std::max(ToBase(value), 0);
-    if (base == field)
-        return;
-    field = base;
-    SizeStored();
+    if (Store(field, std::max(ToBase(value), 0), {}, TFollow::None))
+        SizeStored();
 }
 
 void TVGRBaseCode::StoreLimited(std::int64_t width, std::int64_t height, std::int64_t paddingX, std::int64_t paddingY) {
@@ -81,11 +79,7 @@ void TVGRBaseCode::StoreLimited(std::int64_t width, std::int64_t height, std::in
 
 // Place
 
-void TVGRBaseCode::SetAngle(TKSLAngle value) {
-    if (value != fAngle)
-        TVGREnumValueCmd::AddCommand(*this, cmd::Angle);
-    StorePlace(fAngle, value);
-}
+void TVGRBaseCode::SetAngle(TKSLAngle value) { Store(fAngle, value, cmd::Angle, TFollow::Bounds); }
 
 void TVGRBaseCode::RotateLeft() {
     fAngle = fAngle >= ag0 && fAngle < ag270 ? TKSLAngle(fAngle + 1) : ag0;

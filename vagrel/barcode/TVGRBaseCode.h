@@ -3,7 +3,6 @@
 #pragma once
 
 #include <vagrel/document/TVGR2DItem.h>
-#include <vagrel/document/TVGRCmd.h>
 #include <vagrel/items/TDataBinding.h>
 
 #include <vector>
@@ -90,12 +89,6 @@ protected:
     void SizeStored();
     /// Stores bar sizes that differ, with one record.
     void StoreBars(std::int64_t width, std::int64_t height, float factor, cmd::TFloatIndex index);
-    /// Stores how the symbol stands at its anchor.
-    template <class T>
-    void StorePlace(T& field, T value);
-    /// Stores what the encoder depends on.
-    template <class T>
-    void StoreChoice(T& field, T value);
 
     float ToUnit(std::int32_t base) const;
     std::int32_t ToBase(float value) const;
@@ -124,22 +117,5 @@ protected:
 private:
     void StorePadding(std::int32_t& field, float value);
 };
-
-template <class T>
-void TVGRBaseCode::StorePlace(T& field, T value) {
-    if (value == field)
-        return;
-    field = value;
-    UpdateBounds();
-    StateUpdate();
-}
-
-template <class T>
-void TVGRBaseCode::StoreChoice(T& field, T value) {
-    if (value == field)
-        return;
-    field = value;
-    StateCalc();
-}
 
 } // namespace vagrel

@@ -16,9 +16,9 @@ public:
 
     /// Size and shape are kept in files; the symbol takes no notice of them.
     TECC200Size GetDMSize() const { return fDMSize; }
-    void SetDMSize(TECC200Size value) { StoreChoice(fDMSize, value); }
+    void SetDMSize(TECC200Size value) { Store(fDMSize, value, {}, TFollow::Calc); }
     TECC200Shape GetDMShape() const { return fDMShape; }
-    void SetDMShape(TECC200Shape value) { StoreChoice(fDMShape, value); }
+    void SetDMShape(TECC200Shape value) { Store(fDMShape, value, {}, TFollow::Calc); }
     bool IsValid() const override { return !fGrid.dark.empty(); }
     void Encode() final;
 

@@ -28,8 +28,8 @@ public:
     void SetFactor(float value) override;
     TKSLHorzAlign GetHorzAlign() const override { return fHorzAlign; }
     TKSLVertAlign GetVertAlign() const override { return fVertAlign; }
-    void SetHorzAlign(TKSLHorzAlign value) override { StorePlace(fHorzAlign, value); }
-    void SetVertAlign(TKSLVertAlign value) override { StorePlace(fVertAlign, value); }
+    void SetHorzAlign(TKSLHorzAlign value) override { Store(fHorzAlign, value, {}, TFollow::Bounds); }
+    void SetVertAlign(TKSLVertAlign value) override { Store(fVertAlign, value, {}, TFollow::Bounds); }
 
     /// Computes the symbol of the text.
     virtual void Encode() = 0;

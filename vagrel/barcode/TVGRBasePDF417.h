@@ -15,9 +15,9 @@ public:
 
     /// Without the right row indicators.
     bool GetTruncated() const { return fTruncated; }
-    void SetTruncated(bool value) { StoreChoice(fTruncated, value); }
+    void SetTruncated(bool value) { Store(fTruncated, value, {}, TFollow::Calc); }
     TKSLPdf417CorrectionLevel GetCorrecLevel() const { return fCorrecLevel; }
-    void SetCorrecLevel(TKSLPdf417CorrectionLevel value) { StoreChoice(fCorrecLevel, value); }
+    void SetCorrecLevel(TKSLPdf417CorrectionLevel value) { Store(fCorrecLevel, value, {}, TFollow::Calc); }
     /// The level in effect, 0 to 8.
     int ErrorLevel() const { return fErrorLevel; }
     /// The wished grid: 0 to 30 columns, 0 to 90 rows, 0 for any.

@@ -16,7 +16,7 @@ public:
     /// Takes the accents off vowels; values from data keep theirs.
     void SetCode(std::u16string_view value) override;
     TQRCodeEncoding GetEncoding() const { return fEncoding; }
-    void SetEncoding(TQRCodeEncoding value) { StoreChoice(fEncoding, value); }
+    void SetEncoding(TQRCodeEncoding value) { Store(fEncoding, value, {}, TFollow::Calc); }
     bool IsValid() const override { return !fEncoder.GetEncoderError(); }
     const TQRCode& QRCode() const { return fQRCode; }
     void Encode() final;

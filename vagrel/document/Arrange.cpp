@@ -49,8 +49,9 @@ void TVGRBaseLabel::AlignObjects(TKSLObjectAlign edge) {
     const std::int64_t target = fSelection[0]->BoundsRect().*side;
     {
         const UpdateScope bracket(*this);
-        for (std::size_t i = 1; i < fSelection.size(); ++i)
-            MoveOn(axis, *fSelection[i], SubSat(target, fSelection[i]->BoundsRect().*side));
+        ForEachLiving(std::vector(fSelection.begin() + 1, fSelection.end()), [&](TVGRBaseItem& item) {
+            MoveOn(axis, item, SubSat(target, item.BoundsRect().*side));
+        });
         CalcLinks();
     }
     fModified = true;
@@ -66,8 +67,9 @@ void TVGRBaseLabel::CenterSelection(TKSLAlignType axis) {
     const std::int64_t target = single ? LabelLength(axis, *this) / 2 : BoundsOn(axis, *fSelection[0]).Middle();
     {
         const UpdateScope bracket(*this);
-        for (std::size_t i = single ? 0 : 1; i < fSelection.size(); ++i)
-            MoveOn(axis, *fSelection[i], SubSat(target, BoundsOn(axis, *fSelection[i]).Middle()));
+        ForEachLiving(std::vector(fSelection.begin() + !single, fSelection.end()), [&](TVGRBaseItem& item) {
+            MoveOn(axis, item, SubSat(target, BoundsOn(axis, item).Middle()));
+        });
         fStates += {lsModified, lsUpdate};
         CalcLinks();
         fModified = true;
@@ -106,11 +108,14 @@ void TVGRBaseLabel::SpaceSelection(TKSLAlignType axis, float gap) {
             return;
         offsets = std::move(*found);
     }
+    std::vector<TItemHandle> handles;
+    for (TVGRBaseItem* item : items)
+        handles.emplace_back(*item);
     {
         const UpdateScope bracket(*this);
         for (std::size_t i = 0; i < items.size(); ++i)
-            if (offsets[i] != 0)
-                MoveOn(axis, *items[i], offsets[i]);
+            if (offsets[i] != 0 && handles[i])
+                MoveOn(axis, *handles[i], offsets[i]);
         fStates += {lsModified, lsUpdate};
         CalcLinks();
         FillSelPoints();
@@ -119,7 +124,7 @@ void TVGRBaseLabel::SpaceSelection(TKSLAlignType axis, float gap) {
 }
 
 void TVGRBaseLabel::SameSize(TKSLAlignType axis) {
-    constexpr TKSLSet<TKSLItemType> oneSize{itCircle, itLevel, itSector};
+    static constexpr TKSLSet<TKSLItemType> oneSize{itCircle, itLevel, itSector};
     const auto first = std::ranges::find_if(fSelection, [](TVGRBaseItem* item) { return SizeOf(*item) != nullptr; });
     if (first == fSelection.end())
         return;
@@ -130,19 +135,19 @@ void TVGRBaseLabel::SameSize(TKSLAlignType axis) {
         return;
     {
         const UpdateScope bracket(*this);
-        for (std::size_t i = 0; i < fSelection.size(); ++i) {
-            TVGRBaseItem& item = *fSelection[i];
+        ForEachLiving(fSelection, [=](TVGRBaseItem& item) {
             IKSLSize* size = SizeOf(item);
             if (!size || &item == reference)
-                continue;
+                return;
+            const TItemHandle alive(item);
             const bool both = oneSize.Has(item.GetItemType());
             if (wide || both)
                 size->SetBaseWidth(value);
-            if (!wide || both)
+            if (alive && (!wide || both))
                 size->SetBaseHeight(value);
-            if (wide)
+            if (alive && wide)
                 item.StateCalc();
-        }
+        });
         Recalculate();
     }
     FillSelPoints();
@@ -156,8 +161,7 @@ void TVGRBaseLabel::Turn(bool left) {
     {
         const UpdateScope bracket(*this);
         fMeasure->Turn();
-        for (const auto& item : fItems)
-            left ? item->RotateLeft() : item->RotateRight();
+        ForEachLiving(fItems, [left](TVGRBaseItem& item) { left ? item.RotateLeft() : item.RotateRight(); });
         if (!fSelection.empty())
             FillSelPoints();
         fModified = true;

@@ -16,7 +16,10 @@ namespace vagrel {
 void TVGRBaseLabel::SetSelection(TVGRBaseItem* item, TKSLItemState state) {
     if (!item)
         return;
+    const TItemHandle chosen(*item);
     ClearSelection(false);
+    if (!chosen)
+        return;
     item->SetState(state);
     fSelection.push_back(item);
     if (OnSelectItem)
@@ -59,6 +62,7 @@ std::int64_t TVGRBaseLabel::SelectionBounds(int side) const {
 }
 
 void TVGRBaseLabel::DeleteItem(TVGRBaseItem& item, bool removeSelection) {
+    const TItemHandle doomed(item);
     if (Query<IKSLLink>(&item)) {
         const std::int32_t id = item.GetInID();
         for (std::size_t i = fLinks.size(); i-- > 0;) {
@@ -69,25 +73,18 @@ void TVGRBaseLabel::DeleteItem(TVGRBaseItem& item, bool removeSelection) {
     }
     if (std::erase(fSelection, &item) > 0 && removeSelection)
         ChangeValue(chSelect);
-    // Those that were told may have deleted it.
-    const bool present =
-        std::any_of(fItems.rbegin(), fItems.rend(), [&](const auto& owned) { return owned.get() == &item; });
-    if (!present)
+    // Those that are told may have deleted it.
+    if (!doomed || item.FromPreview() || &item.KSLab() != this || !TVGRDeleteCmd::AddCommand(item))
         return;
-    TVGRDeleteCmd::AddCommand(item);
     FreeItem(item);
     fModified = true;
 }
 
 void TVGRBaseLabel::DeleteSelection() {
-    for (std::size_t i = 0; i < fSelection.size(); ++i) {
-        fSelection[i]->SetState(isNormal);
-        if (OnUnSelectItem)
-            OnUnSelectItem(*this, *fSelection[i]);
-    }
+    TellUnselected();
     fSelPoint.clear(); // each item that dies would look through all handles
-    while (!fSelection.empty())
-        DeleteItem(*fSelection.back(), false);
+    ForEachLiving(std::vector(fSelection.rbegin(), fSelection.rend()),
+                  [this](TVGRBaseItem& item) { DeleteItem(item, false); });
     ClearSelection(true);
 }
 

@@ -10,15 +10,15 @@
 namespace vagrel {
 
 void TVGRBaseLabel::CalcLinks() {
-    for (std::size_t i = 0; i < fLinks.size(); ++i)
-        fLinks[i]->CalcValues(2);
+    ForEachLiving(fLinks, [](TVGRBaseItem& link) { link.CalcValues(2); });
 }
 
 void TVGRBaseLabel::Recalculate() {
-    constexpr TKSLSet<TKSLItemType> followers{itArrowLine, itPara, itFlow, itDim, itRichText};
-    for (std::size_t i = 0; i < fSelection.size(); ++i)
-        if (followers.Has(fSelection[i]->GetItemType()))
-            fSelection[i]->CalcValues(2);
+    static constexpr TKSLSet<TKSLItemType> followers{itArrowLine, itPara, itFlow, itDim, itRichText};
+    ForEachLiving(fSelection, [](TVGRBaseItem& item) {
+        if (followers.Has(item.GetItemType()))
+            item.CalcValues(2);
+    });
     CalcLinks();
 }
 
@@ -28,8 +28,7 @@ bool TVGRBaseLabel::MoveSelection(float ax, float ay, bool refLines, bool checkB
             item->BoundsMove(ax, ay);
     if (ax == 0 && ay == 0)
         return false;
-    for (std::size_t i = 0; i < fSelection.size(); ++i)
-        fSelection[i]->Move(ax, ay, moAll);
+    ForEachLiving(fSelection, [=](TVGRBaseItem& item) { item.Move(ax, ay, moAll); });
     Recalculate();
     if (refLines)
         FillRefLines();
@@ -48,8 +47,7 @@ bool TVGRBaseLabel::MoveSize(float value, TKSLMoveOpt side, bool refLines, bool 
             item->BoundsMove(ax, ay);
     if (items.empty() || (ax == 0 && ay == 0))
         return false;
-    for (TVGRBaseItem* item : items)
-        item->Move(ax, ay, side);
+    ForEachLiving(items, [=](TVGRBaseItem& item) { item.Move(ax, ay, side); });
     CalcLinks();
     if (refLines)
         FillRefLines();
@@ -63,8 +61,7 @@ bool TVGRBaseLabel::MoveAllBy(std::int64_t bx, std::int64_t by, std::int64_t gx,
     if (bx == 0 && by == 0)
         return false;
     fUpdate = true;
-    for (std::size_t i = 0; i < fSelection.size(); ++i)
-        fSelection[i]->BaseMove(bx, by, gx, gy, moAll, true);
+    ForEachLiving(fSelection, [=](TVGRBaseItem& item) { item.BaseMove(bx, by, gx, gy, moAll, true); });
     Recalculate();
     if (refLines)
         FillRefLines();
@@ -98,20 +95,21 @@ bool TVGRBaseLabel::MoveBaseGridSelection(std::int64_t gx, std::int64_t gy, bool
 
 bool TVGRBaseLabel::MoveBaseSize(std::int64_t bx, std::int64_t by, std::int64_t gx, std::int64_t gy, TKSLMoveOpt option,
                                  bool refLines, bool checkBounds) {
-    constexpr TKSLSet<TKSLMoveOpt> left{moLeft, moTopLeft, moBotLeft}, top{moTop, moTopLeft, moTopRight};
+    static constexpr TKSLSet<TKSLMoveOpt> left{moLeft, moTopLeft, moBotLeft}, top{moTop, moTopLeft, moTopRight};
     if (checkBounds)
         for (const TVGRBaseItem* item : fSelection)
             item->CheckBaseBoundsMove(bx, by, option);
     if (bx == 0 && by == 0)
         return false;
     fUpdate = true;
-    for (std::size_t i = 0; i < fSelection.size(); ++i) {
-        TVGRBaseItem& item = *fSelection[i];
+    ForEachLiving(fSelection, [=](TVGRBaseItem& item) {
+        const TItemHandle alive(item);
         const std::int64_t x = item.GetPoint(left.Has(option) ? 1 : 2).bX;
         const std::int64_t y = item.GetPoint(top.Has(option) ? 1 : 2).bY;
         item.BaseMove(bx, by, GridTarget(x, bx, gx), GridTarget(y, by, gy), option, true);
-        item.CalcValues(1);
-    }
+        if (alive)
+            item.CalcValues(1);
+    });
     CalcLinks();
     if (refLines)
         FillRefLines();

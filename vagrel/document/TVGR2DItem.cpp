@@ -3,7 +3,6 @@
 #include <vagrel/document/TVGR2DItem.h>
 
 #include <vagrel/document/TVGRBaseLabel.h>
-#include <vagrel/document/TVGRCmd.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Units.h>
@@ -28,21 +27,8 @@ TVGR2DItem::TVGR2DItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer
     fResize = true;
 }
 
-void TVGR2DItem::SetBackColor(TAlphaColor value) {
-    if (value == fBackColor)
-        return;
-    TVGRColorCmd::AddCommand(*this, cmd::Back);
-    fBackColor = value;
-    StateUpdate();
-}
-
-void TVGR2DItem::SetFilled(bool value) {
-    if (value == fFill)
-        return;
-    TVGRBoolCmd::AddCommand(*this, cmd::Filled);
-    fFill = value;
-    StateUpdate();
-}
+void TVGR2DItem::SetBackColor(TAlphaColor value) { Store(fBackColor, value, cmd::Back); }
+void TVGR2DItem::SetFilled(bool value) { Store(fFill, value, cmd::Filled); }
 
 std::int64_t TVGR2DItem::BaseWidth() const { return Span(GetPoint(1).bX, GetPoint(2).bX); }
 std::int64_t TVGR2DItem::BaseHeight() const { return Span(GetPoint(1).bY, GetPoint(2).bY); }
@@ -69,17 +55,15 @@ void TVGR2DItem::SetHeight(float value) {
 }
 
 void TVGR2DItem::SetBaseWidth(std::int64_t value) {
-    if (value == BaseWidth())
+    if (value == BaseWidth() || !Record({ckPosX, 2}))
         return;
-    TVGRPosCmd::AddCommand(*this, 2, ptX);
     SetBaseX(2, AddSat(GetPoint(1).bX, value));
     UpdateBounds();
 }
 
 void TVGR2DItem::SetBaseHeight(std::int64_t value) {
-    if (value == BaseHeight())
+    if (value == BaseHeight() || !Record({ckPosY, 2}))
         return;
-    TVGRPosCmd::AddCommand(*this, 2, ptY);
     SetBaseY(2, AddSat(GetPoint(1).bY, value));
     UpdateBounds();
 }

@@ -5,6 +5,7 @@
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRCmd.h>
 #include <vagrel/document/TVGRLayer.h>
+#include <vagrel/document/TVGRReceiver_p.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/TVGRBaseDraw.h>
@@ -23,7 +24,7 @@ TVGRBaseItem::TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, bool preview
 TVGRBaseItem::TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview)
     : TVGRBaseItem(owner, type, layer, preview, TStage::Built) {
     owner.Adopt(*this);
-    TVGRCreateCmd::AddCommand(*this);
+    Record({ckCreate, 0});
 }
 
 TVGRBaseItem::TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview, TStage)
@@ -34,6 +35,12 @@ TVGRBaseItem::TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& l
 }
 
 TVGRBaseItem::~TVGRBaseItem() { fOwner.Forget(*this); }
+
+const std::shared_ptr<TVGRReceiver>& TVGRBaseItem::Receiver() {
+    if (!fReceiver)
+        fReceiver = std::make_shared<TVGRReceiver>(TVGRReceiver{this, {}});
+    return fReceiver;
+}
 
 void TVGRBaseItem::SetName() { fID = std::u16string(NameItem(fItemType)) + IntToStr(fInID, 3); }
 
@@ -47,30 +54,31 @@ void TVGRBaseItem::SetID(std::u16string_view value) {
     fID = trimmed;
 }
 
-void TVGRBaseItem::SetColor(TAlphaColor value) {
-    if (value == fColor)
+bool TVGRBaseItem::Record(TUndoRow row) { return row.kind == ckNone || fOwner.Record(*this, row.kind, row.index); }
+
+void TVGRBaseItem::Follow(TFollow follow) {
+    switch (follow) {
+    case TFollow::None:
         return;
-    TVGRColorCmd::AddCommand(*this, cmd::Color);
-    fColor = value;
-    StateUpdate();
+    case TFollow::Modified:
+        return StateModified();
+    case TFollow::Bounds:
+        UpdateBounds();
+        [[fallthrough]];
+    case TFollow::Update:
+        return StateUpdate();
+    case TFollow::Calc:
+        return StateCalc();
+    }
 }
 
-void TVGRBaseItem::SetAngle(TKSLAngle value) {
-    if (value == fAngle)
-        return;
-    TVGREnumValueCmd::AddCommand(*this, cmd::Angle);
-    fAngle = value;
-    StateUpdate();
-}
+void TVGRBaseItem::SetColor(TAlphaColor value) { Store(fColor, value, cmd::Color); }
+void TVGRBaseItem::SetAngle(TKSLAngle value) { Store(fAngle, value, cmd::Angle); }
 
 float TVGRBaseItem::GetPenWidth() const { return GetBaseValue(fPenWidth); }
 
 void TVGRBaseItem::SetPenWidth(float mm) {
-    const std::int32_t value = ToInt32(SetBaseValue(mm));
-    if (value == fPenWidth)
-        return;
-    TVGRBaseValueCmd::AddCommand(*this, cmd::PenWidth);
-    fPenWidth = value;
+    Store(fPenWidth, ToInt32(SetBaseValue(mm)), cmd::PenWidth, TFollow::None);
 }
 
 void TVGRBaseItem::SetLayer(TVGRLayer& value) {

@@ -4,10 +4,12 @@
 #pragma once
 
 #include <vagrel/document/Capabilities.h>
+#include <vagrel/document/TVGRCmd.h>
 #include <vagrel/foundation/Crossings.h>
 #include <vagrel/svg/TSVGOutput.h>
 
 #include <memory>
+#include <type_traits>
 
 namespace vagrel {
 
@@ -32,6 +34,15 @@ struct TKSLChain {
     int first = 0;
     int last = 0;
     bool closed = false;
+};
+
+/// What follows a stored value. It comes last in a setter: observers are told, and what they do may end the item.
+enum class TFollow : std::uint8_t {
+    None,
+    Modified, ///< `StateModified`
+    Update,   ///< `StateUpdate`
+    Bounds,   ///< `UpdateBounds`, then `StateUpdate`
+    Calc      ///< `StateCalc`
 };
 
 /// An item of a document. An item adopts itself into its document when it is constructed; the document owns it from
@@ -238,6 +249,13 @@ protected:
     TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, bool preview);
     TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview);
 
+    /// What a setter does with a clamped value: nothing for an equal one; else it records the old one, stores, and marks.
+    /// False for an equal value, and when the event that tells of the recording ended the item.
+    template <class T>
+    bool Store(T& field, std::type_identity_t<T> value, TUndoRow row = {}, TFollow follow = TFollow::Update);
+    /// Records a property that is about to change; false as above.
+    bool Record(TUndoRow row);
+    void Follow(TFollow follow);
     /// What follows a stored coordinate, unless a document is being read.
     void PointStored();
     bool InRange(int index) const { return index >= 1 && index <= int(fPoints.size()); }
@@ -295,12 +313,24 @@ protected:
 
 private:
     friend class TVGRBaseLabel; // which keeps the item's commands
+    friend class TItemHandle;
 
     enum class TStage { Built };
     /// An item that nobody knows yet.
     TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview, TStage);
 
+    const std::shared_ptr<TVGRReceiver>& Receiver();
+
     std::shared_ptr<TVGRReceiver> fReceiver;
 };
+
+template <class T>
+bool TVGRBaseItem::Store(T& field, std::type_identity_t<T> value, TUndoRow row, TFollow follow) {
+    if (value == field || !Record(row))
+        return false;
+    field = std::move(value);
+    Follow(follow);
+    return true;
+}
 
 } // namespace vagrel

@@ -3,7 +3,6 @@
 #include <vagrel/document/TVGRBaseItem.h>
 
 #include <vagrel/document/TVGRBaseLabel.h>
-#include <vagrel/document/TVGRCmd.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/TDraw2D.h>
@@ -103,13 +102,14 @@ void TVGRBaseItem::BaseMove(std::int64_t bx, std::int64_t by, std::int64_t gx, s
         MoveAll(points, bx, by, gx, gy);
     else
         MoveCorners(points, bx, by, gx, gy, option);
-    if (points != fPoints) {
-        TVGRElePosCmd::AddCommand(*this);
-        fPoints = std::move(points);
-        StateUpdate();
-    }
+    const bool moved = points != fPoints;
+    if (moved && !Record({ckElePos, 0}))
+        return;
+    fPoints = std::move(points);
     if (update)
         UpdateBounds();
+    if (moved)
+        StateUpdate();
 }
 
 void TVGRBaseItem::Move(float ax, float ay, TKSLMoveOpt option) {

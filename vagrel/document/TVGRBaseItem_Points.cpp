@@ -3,7 +3,6 @@
 #include <vagrel/document/TVGRBaseItem.h>
 
 #include <vagrel/document/TVGRBaseLabel.h>
-#include <vagrel/document/TVGRCmd.h>
 #include <vagrel/foundation/Rounding.h>
 
 #include <algorithm>
@@ -40,7 +39,8 @@ void TVGRBaseItem::SetPointX(int index, float value) {
     if (!InRange(index) || At(index).GetX(fOwner.GetUnits()) == value)
         return;
     fOwner.AddState(lsUpdate);
-    TVGRPosCmd::AddCommand(*this, index, ptX);
+    if (!Record({ckPosX, index}) || !InRange(index))
+        return;
     At(index).SetX(value, fOwner.GetUnits());
     PointStored();
 }
@@ -49,7 +49,8 @@ void TVGRBaseItem::SetPointY(int index, float value) {
     if (!InRange(index) || At(index).GetY(fOwner.GetUnits()) == value)
         return;
     fOwner.AddState(lsUpdate);
-    TVGRPosCmd::AddCommand(*this, index, ptY);
+    if (!Record({ckPosY, index}) || !InRange(index))
+        return;
     At(index).SetY(value, fOwner.GetUnits());
     PointStored();
 }

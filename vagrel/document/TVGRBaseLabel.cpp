@@ -5,7 +5,7 @@
 #include <vagrel/document/TVGRBackSurf.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRBasePrintInfo.h>
-#include <vagrel/document/TVGRCmd_p.h>
+#include <vagrel/document/TUndoStacks_p.h>
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/document/TVGRSettings.h>
@@ -33,7 +33,7 @@ TVGRBaseLabel* TVGRBaseLabel::Create(TComponent*) {
 }
 
 TVGRBaseLabel::TVGRBaseLabel(TComponent* owner)
-    : TComponent(owner), fIntersect(std::make_shared<TIntersections>()),
+    : TComponent(owner), fStacks(std::make_unique<detail::TUndoStacks>()), fIntersect(std::make_shared<TIntersections>()),
       fPrintInfo(std::make_unique<TVGRBasePrintInfo>(*this)), fData(std::make_unique<TVGRData>(*this)),
       fMeasure(std::make_unique<TVGRMeasure>(*this)), fMapping(std::make_unique<TVGRMapping>(*this)),
       fBackSurf(std::make_unique<TVGRBackSurf>(*this, true)), fSettings(std::make_unique<TVGRSettings>(*this)) {
@@ -105,34 +105,38 @@ bool TVGRBaseLabel::RepeatID(std::u16string_view id, const TVGRBaseItem* item) c
 
 TVGRBaseItem* TVGRBaseLabel::SearchItem(std::int32_t id, bool scrollToView) {
     const auto found = std::ranges::find_if(fItems, [id](const auto& item) { return item->GetInID() == id; });
-    if (found == fItems.end())
-        return nullptr;
-    if (scrollToView)
-        ScrollItem(**found);
-    return found->get();
+    return found == fItems.end() ? nullptr : Found(**found, scrollToView);
 }
 
 TVGRBaseItem* TVGRBaseLabel::SearchItem(std::u16string_view id, bool scrollToView) {
     const auto found = std::ranges::find_if(fItems, [id](const auto& item) { return SameText(item->GetID(), id); });
-    if (found == fItems.end())
-        return nullptr;
-    if (scrollToView)
-        ScrollItem(**found);
-    return found->get();
+    return found == fItems.end() ? nullptr : Found(**found, scrollToView);
+}
+
+TVGRBaseItem* TVGRBaseLabel::Found(TVGRBaseItem& item, bool scrollToView) {
+    if (!scrollToView)
+        return &item;
+    const TItemHandle found(item);
+    ScrollItem(item);
+    return found.Get();
 }
 
 void TVGRBaseLabel::ScrollItem(TVGRBaseItem& item) { SelectOnly(item, chScrollSelect); }
 
 TVGRBaseItem* TVGRBaseLabel::ElementByID(std::u16string_view id, bool select) {
     TVGRBaseItem* item = SearchItem(id, false);
-    if (item && select)
-        SelectOnly(*item, chSelect);
-    return item;
+    if (!item || !select)
+        return item;
+    const TItemHandle found(*item);
+    SelectOnly(*item, chSelect);
+    return found.Get();
 }
 
 void TVGRBaseLabel::SelectOnly(TVGRBaseItem& item, TKSChange change) {
+    const TItemHandle chosen(item);
     ClearSelection(false);
-    AddToSelection(item, false);
+    if (chosen)
+        AddToSelection(item, false);
     if (fEditorMode != emInteractive)
         FillSelPoints();
     ChangeValue(change);

@@ -11,6 +11,7 @@
 #include <vagrel/document/Events.h>
 #include <vagrel/document/IKSObserver.h>
 #include <vagrel/document/TFinally.h>
+#include <vagrel/document/TItemHandle.h>
 #include <vagrel/document/TKSSelectionValue.h>
 #include <vagrel/foundation/TComponent.h>
 
@@ -44,6 +45,10 @@ struct TIntSecPoint;
 enum TVGRCmdKind : std::int32_t;
 struct TKSLExtent;
 struct TVGRCmd;
+namespace detail {
+class TUndoStacks;
+enum class TReplay : std::uint8_t;
+} // namespace detail
 
 /// A document. Abstract: a host derives its own, which constructs the items, reads and writes files, prints and
 /// exports.
@@ -108,7 +113,7 @@ public:
     /// True when another item than `item` has this identifier, without regard to case.
     bool RepeatID(std::u16string_view id, const TVGRBaseItem* item) const;
     /// By number or by identifier, without regard to case; null when absent. `scrollToView` selects it and scrolls
-    /// there.
+    /// there; null then also when one of those that are told has ended it.
     TVGRBaseItem* SearchItem(std::int32_t id, bool scrollToView);
     TVGRBaseItem* SearchItem(std::u16string_view id, bool scrollToView);
     void ScrollItem(TVGRBaseItem& item);
@@ -257,7 +262,10 @@ public:
     /// The number of the step that the next command belongs to.
     std::int32_t UnReID();
     /// Keeps the state of a property that is about to change. Items call it through TVGRCmd.h.
-    void Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t index);
+    /// False when the item ended in the event that tells of it.
+    bool Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t index);
+    /// True while a step is undone or redone; a second one does nothing then.
+    bool IsReplaying() const { return fStepping; }
 
     // Selection and arrangement. What moves through base units is recorded; a command that arranges is one step. Where
     // a result is given, false says that nothing moved.
@@ -560,6 +568,12 @@ protected:
     /// owns calls it first in its own destructor. While it runs nobody is told of anything.
     void Teardown();
     void Notification(TComponent* component, TOperation operation) override;
+    /// The road of creation: `construct` makes an item, `initialise` finishes it, and then the creation is told to
+    /// `OnUndoRedo`. When one of the three throws nothing is left of the item. Throws EInvalidOperation when the event
+    /// has ended the item. An item that is made by a plain `new` is told with the next recording, the end of a bracket
+    /// or a step.
+    TVGRBaseItem& NewItem(const std::function<TVGRBaseItem&()>& construct,
+                          const std::function<void(TVGRBaseItem&)>& initialise = {});
     /// Takes an item out of every list and destroys it.
     void FreeItem(TVGRBaseItem& item);
     /// The steps of a paste; nothing for an empty clipboard. `read` constructs the next item and lets it read itself,
@@ -574,8 +588,18 @@ private:
         TKSDestUpdate dest;
     };
 
+    friend class UpdateScope;
+    enum class TScope : std::uint8_t {
+        Nested, ///< inside another scope: opens and closes nothing
+        Inner,  ///< inside a bracket of the host, whose step and bracket go on behind it
+        Whole
+    };
+    TScope OpenScope(bool paintOnEnd);
+    void CloseScope(TScope scope);
+    void CloseBracket();
     void CalcPending();
     void FinishUpdate();
+    void TellUnselected();
     /// Resolves what items refer to by stored numbers.
     void AssignSymbolAndFlowLinks();
     /// Arrow lines that show the unit measure themselves again; true when there is one.
@@ -592,21 +616,24 @@ private:
     void DropStandIns();
     bool IsLargeUnit() const { return fUnits >= unDM && fUnits <= unYd; }
     void SelectOnly(TVGRBaseItem& item, TKSChange change);
+    TVGRBaseItem* Found(TVGRBaseItem& item, bool scrollToView);
     void FillBoxTexts();
     void FillBoxItems(TVGRLayer& layer);
 
     // Undo
 
-    /// What a command in replay does with what it causes to be recorded.
-    enum class TReplay : std::uint8_t { None, Undo, Redo };
+    using TReplay = detail::TReplay;
 
-    std::vector<TVGRCmd>& Recording() { return fReplay == TReplay::Undo ? fRedo : fUndo; }
     void Step(TReplay direction);
+    void ReplayStep(TReplay direction, std::vector<TVGRCmd>& from);
     void Replay(const TVGRCmd& command, TReplay direction);
-    void Revive(const TVGRCmd& deletion);
+    void Revive(const TVGRCmd& deletion, TReplay direction);
+    void TakeBack(std::vector<TVGRCmd>& opposites, std::size_t before);
+    void Discard(const TVGRCmd& creation);
     void ForgetCommands(TVGRBaseItem& item);
     void ClearCommands();
     void TellUndoRedo();
+    void TellOwed();
 
     // Selection and arrangement
 
@@ -660,6 +687,9 @@ private:
     void GoToLabel(std::int64_t label);
     void WalkToLabel(std::int64_t label);
 
+    // First, since they outlive the items, whose ends they are told of.
+    std::unique_ptr<detail::TUndoStacks> fStacks;
+
     bool fEditable = true;
     bool fShowDispWidthHandle = false;
     TKSLEditorMode fEditorMode = emLabelling;
@@ -688,6 +718,8 @@ private:
     std::vector<TVGRBaseItem*> fSelection;
     std::vector<TVGRBaseItem*> fLinks;
     std::vector<TVGRBaseItem*> fCalcs;
+    std::size_t fCalcAt = 0; ///< how many of them were calculated
+    int fScopes = 0;
     TOwned<TVGRCounter> fCounters;
     std::vector<TKSSelectionValue> fSelPoint;
     std::u16string fLngFileName;
@@ -698,12 +730,12 @@ private:
     bool fMultiDragHasLast = false;
     TKSChangeValue fChangeVal;
     TVGRBaseLibSymbol* fCurrentLibSym = nullptr;
-    std::vector<TVGRCmd> fUndo, fRedo;
-    TReplay fReplay = TReplay::None;
+    bool fStepping = false;
+    std::exception_ptr fStepFault;
+    int fCreating = 0;      ///< items that are half built
+    bool fTellOwed = false; ///< the stacks have changed and nobody was told yet
     bool fUndoOpt = false;
     std::int32_t fMaxID = 1;
-    bool fIncUnReID = true;
-    std::int32_t fUnReID = 0, fUnReRef = 0;
     bool fModified = false;
     TVagrelStateOptions fStates;
     std::int32_t fIdxBack = -1;
@@ -715,17 +747,18 @@ private:
     bool fDestroying = false;
 };
 
-/// An update bracket that closes with its scope, after an exception too.
+/// An update bracket that closes with its scope, after an exception too. Inside another one it opens and closes nothing.
+/// Inside `BeginUpdate` of a host its notices go out at its end, and its commands are of the host's step.
 class UpdateScope {
 public:
-    explicit UpdateScope(TVGRBaseLabel& label, bool paintOnEnd = true) : fClose(TClose{label}) {
-        label.BeginUpdate(paintOnEnd);
-    }
+    explicit UpdateScope(TVGRBaseLabel& label, bool paintOnEnd = true)
+        : fClose(TClose{label, label.OpenScope(paintOnEnd)}) {}
 
 private:
     struct TClose {
         TVGRBaseLabel& label;
-        void operator()() const { label.EndUpdate(); }
+        TVGRBaseLabel::TScope scope;
+        void operator()() const { label.CloseScope(scope); }
     };
     TFinally<TClose> fClose;
 };

@@ -99,7 +99,10 @@ void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
     Release(item.FromPreview() ? fPreview : fItems, item);
     std::erase(fSelection, &item);
     std::erase(fLinks, &item);
-    std::erase(fCalcs, &item);
+    if (const auto at = std::ranges::find(fCalcs, &item); at != fCalcs.end()) {
+        fCalcAt -= std::size_t(at - fCalcs.begin()) < fCalcAt;
+        fCalcs.erase(at);
+    }
     std::erase_if(fSelPoint, [&](const TKSSelectionValue& handle) { return handle.Item == &item; });
     // Preview copies have the number of the item that they show.
     if (!item.FromPreview())

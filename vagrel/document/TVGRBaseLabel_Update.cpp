@@ -3,6 +3,7 @@
 #include <vagrel/document/TVGRBaseLabel.h>
 
 #include <vagrel/document/Owned_p.h>
+#include <vagrel/document/TUndoStacks_p.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
@@ -156,14 +157,24 @@ void TVGRBaseLabel::BeginUpdate(bool paintOnEnd) {
     AddState(lsUpdating);
     if (!paintOnEnd)
         AddState(lsNoPaint);
-    fIncUnReID = false;
+    fStacks->OpenGroup();
 }
 
 void TVGRBaseLabel::CalcPending() {
-    // Calculating one item may ask for another: links follow their shapes.
-    const TFinally empty{[this] { fCalcs.clear(); }};
-    for (std::size_t i = 0; i < fCalcs.size(); ++i)
-        fCalcs[i]->CalcValues(2);
+    // Calculating one item may ask for another, since links follow their shapes, and may end any. Those that are left
+    // are calculated also when one fails.
+    std::exception_ptr fault;
+    for (fCalcAt = 0; fCalcAt < fCalcs.size();) {
+        try {
+            fCalcs[fCalcAt++]->CalcValues(2);
+        } catch (...) {
+            if (!fault)
+                fault = std::current_exception();
+        }
+    }
+    fCalcs.clear();
+    if (fault)
+        std::rethrow_exception(fault);
 }
 
 void TVGRBaseLabel::FinishUpdate() {
@@ -183,10 +194,33 @@ void TVGRBaseLabel::FinishUpdate() {
 }
 
 void TVGRBaseLabel::EndUpdate() {
-    ++fUnReID;
-    fIncUnReID = true;
+    fStacks->CloseGroup();
+    CloseBracket();
+}
+
+void TVGRBaseLabel::CloseBracket() {
+    const TFinally told{[this] { TellOwed(); }};
     const TFinally finish{[this] { FinishUpdate(); }};
     CalcPending();
+}
+
+TVGRBaseLabel::TScope TVGRBaseLabel::OpenScope(bool paintOnEnd) {
+    if (fScopes++ > 0)
+        return TScope::Nested;
+    const bool inner = fStacks->InGroup();
+    BeginUpdate(paintOnEnd);
+    return inner ? TScope::Inner : TScope::Whole;
+}
+
+void TVGRBaseLabel::CloseScope(TScope scope) {
+    --fScopes;
+    if (scope == TScope::Nested)
+        return;
+    if (scope == TScope::Whole)
+        return EndUpdate();
+    // The bracket around it goes on.
+    const TFinally reopen{[this] { AddState(lsUpdating); }};
+    CloseBracket();
 }
 
 void TVGRBaseLabel::EndUpdateSelection() {
@@ -218,7 +252,8 @@ void TVGRBaseLabel::BeginRead(bool paste) {
         ResetRefLines();
         Clear({cleAll}, true);
     }
-    fUndoOpt = fOptions.Has(loUndoRedo);
+    if (!fStates.Has(lsReading))
+        fUndoOpt = fOptions.Has(loUndoRedo);
     fStates.Put(lsPaste, paste);
     fStates += {lsUpdating, lsReading, lsUpdateMeasure};
     fOptions -= {loUndoRedo};
@@ -226,7 +261,7 @@ void TVGRBaseLabel::BeginRead(bool paste) {
 }
 
 void TVGRBaseLabel::EndRead(bool units) {
-    fIncUnReID = true;
+    fStacks->LeaveGroup();
     if (!fStates.Has(lsPaste))
         NextID();
     fStates -= {lsPaste, lsUpdating, lsReading};
@@ -248,18 +283,17 @@ void TVGRBaseLabel::EndRead(bool units) {
 }
 
 void TVGRBaseLabel::AssignSymbolAndFlowLinks() {
-    for (std::size_t i = 0; i < fItems.size(); ++i)
-        fItems[i]->ResolveReferences();
+    ForEachLiving(fItems, [](TVGRBaseItem& item) { item.ResolveReferences(); });
 }
 
 bool TVGRBaseLabel::CheckNeedDrawUnits() {
     bool any = false;
-    for (std::size_t i = 0; i < fItems.size(); ++i) {
-        if (fItems[i]->ShowsUnits()) {
-            fItems[i]->CalcValues(1);
+    ForEachLiving(fItems, [&any](TVGRBaseItem& item) {
+        if (item.ShowsUnits()) {
+            item.CalcValues(1);
             any = true;
         }
-    }
+    });
     return any;
 }
 
@@ -346,14 +380,20 @@ void TVGRBaseLabel::AddToSelection(TVGRBaseItem& item, bool notify) {
 
 void TVGRBaseLabel::ClearSelection(bool notify) {
     ResetMultiDragState();
-    for (std::size_t i = 0; i < fSelection.size(); ++i) {
-        fSelection[i]->SetState(isNormal);
-        if (OnUnSelectItem)
-            OnUnSelectItem(*this, *fSelection[i]);
+    {
+        const TFinally cleared{[this] { ClearSelectionLists(); }};
+        TellUnselected();
     }
-    ClearSelectionLists();
     if (notify)
         ChangeValue(chSelect);
+}
+
+void TVGRBaseLabel::TellUnselected() {
+    ForEachLiving(fSelection, [this](TVGRBaseItem& item) {
+        item.SetState(isNormal);
+        if (OnUnSelectItem)
+            OnUnSelectItem(*this, item);
+    });
 }
 
 IKSLText* TVGRBaseLabel::GetTextObject() const {

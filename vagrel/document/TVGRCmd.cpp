@@ -81,29 +81,56 @@ constexpr TProperty Property(TVGRCmdKind kind, std::int32_t index) {
 
 TVGRCmdValue ReadPenWidth(TVGRBaseItem& item, std::int32_t) { return std::int64_t(item.BasePenWidth()); }
 void WritePenWidth(TVGRBaseItem& item, std::int32_t, const TVGRCmdValue& value) {
-    TVGRBaseValueCmd::AddCommand(item, cmd::PenWidth);
-    item.StorePenWidth(Unpacked<std::int32_t>(value));
+    if (TVGRBaseValueCmd::AddCommand(item, cmd::PenWidth))
+        item.StorePenWidth(Unpacked<std::int32_t>(value));
 }
 
 TVGRCmdValue ReadPoints(TVGRBaseItem& item, std::int32_t) { return item.Points(); }
 void WritePoints(TVGRBaseItem& item, std::int32_t, const TVGRCmdValue& value) {
-    TVGRElePosCmd::AddCommand(item);
-    item.StorePoints(std::get<TKSLPtoA>(value));
+    if (TVGRElePosCmd::AddCommand(item))
+        item.StorePoints(std::get<TKSLPtoA>(value));
 }
 
 TVGRCmdValue ReadPoint(TVGRBaseItem& item, std::int32_t point) { return item.GetPoint(point); }
 void WritePoint(TVGRBaseItem& item, std::int32_t point, const TVGRCmdValue& value) {
-    TVGRBasePosCmd::AddCommand(item, cmd::ItemPoint, point);
-    item.SetPoint(point, std::get<TKSLPto>(value));
+    if (TVGRBasePosCmd::AddCommand(item, cmd::ItemPoint, point))
+        item.SetPoint(point, std::get<TKSLPto>(value));
 }
 
 TVGRCmdValue ReadLinkPoint(TVGRBaseItem& item, std::int32_t point) {
     return Capability<IKSLLinkItem>(item).GetLinkPoint(point);
 }
 void WriteLinkPoint(TVGRBaseItem& item, std::int32_t point, const TVGRCmdValue& value) {
-    TVGRBasePosCmd::AddCommand(item, cmd::LinkPoint, point);
+    if (!TVGRBasePosCmd::AddCommand(item, cmd::LinkPoint, point))
+        return;
     const TKSLPto place = std::get<TKSLPto>(value);
     Capability<IKSLLinkItem>(item).SetBasePoint(point, place.bX, place.bY, true);
+}
+
+// A radius, or the centre of a round figure, as its setters would cut it to the page: what they follow from is kept
+// instead, all points of a round figure, the radius of another.
+
+TVGRCmdValue ReadPlace(TVGRBaseItem& item, std::int32_t) { return item.Points(); }
+void StorePlace(TVGRBaseItem& item, const TVGRCmdValue& value) {
+    item.StorePoints(std::get<TKSLPtoA>(value));
+    item.UpdateBounds();
+    item.StateUpdate();
+}
+void WriteCenter(TVGRBaseItem& item, std::int32_t index, const TVGRCmdValue& value) {
+    if (TVGRFloatCmd::AddCommand(item, cmd::TFloatIndex(index)))
+        StorePlace(item, value);
+}
+
+TVGRCmdValue ReadRadius(TVGRBaseItem& item, std::int32_t) {
+    if (Query<IKSLCenter>(&item))
+        return item.Points();
+    return Capability<IKSLRadio>(item).GetBaseRadio();
+}
+void WriteRadius(TVGRBaseItem& item, std::int32_t, const TVGRCmdValue& value) {
+    if (!std::holds_alternative<TKSLPtoA>(value))
+        Capability<IKSLRadio>(item).SetBaseRadio(Unpacked<std::int64_t>(value));
+    else if (TVGRBaseValueCmd::AddCommand(item, cmd::Radio))
+        StorePlace(item, value);
 }
 
 using TCoordinateX = TCoordinate<&TVGRBaseItem::GetPointX, &TVGRBaseItem::SetPointX>;
@@ -119,7 +146,7 @@ constexpr TProperty Properties[] = {
     Property<&IKSLSTerm::GetFromColor, &IKSLSTerm::SetFromColor>(ckColor, cmd::FromTerm),
     Property<&IKSLSTerm::GetToColor, &IKSLSTerm::SetToColor>(ckColor, cmd::ToTerm),
     {ckBaseValue, cmd::PenWidth, ReadPenWidth, WritePenWidth},
-    Property<&IKSLRadio::GetBaseRadio, &IKSLRadio::SetBaseRadio>(ckBaseValue, cmd::Radio),
+    {ckBaseValue, cmd::Radio, ReadRadius, WriteRadius},
     Property<&IKSLSTerm::BaseSizeFrom, &IKSLSTerm::SetBaseSizeFrom>(ckBaseValue, cmd::SizeFrom),
     Property<&IKSLSTerm::BaseSizeTo, &IKSLSTerm::SetBaseSizeTo>(ckBaseValue, cmd::SizeTo),
     Property<&IKSLBack::GetFilled, &IKSLBack::SetFilled>(ckBool, cmd::Filled),
@@ -133,8 +160,8 @@ constexpr TProperty Properties[] = {
     Property<&IKSLBar1D2D::GetBarWidth, &IKSLBar1D2D::SetBarWidth>(ckFloat, cmd::BarWidth),
     Property<&IKSLBar1D2D::GetBarHeight, &IKSLBar1D2D::SetBarHeight>(ckFloat, cmd::BarHeight),
     Property<&IKSLBar1D2D::GetFactor, &IKSLBar1D2D::SetFactor>(ckFloat, cmd::Factor),
-    Property<&IKSLCenter::GetCenterX, &IKSLCenter::SetCenterX>(ckFloat, cmd::CenterX),
-    Property<&IKSLCenter::GetCenterY, &IKSLCenter::SetCenterY>(ckFloat, cmd::CenterY),
+    {ckFloat, cmd::CenterX, ReadPlace, WriteCenter},
+    {ckFloat, cmd::CenterY, ReadPlace, WriteCenter},
     Property<&IKSLFont::GetFontName, &IKSLFont::SetFontName>(ckTxt, cmd::FontName),
     Property<&IKSLText::GetText, &IKSLText::SetText>(ckTxt, cmd::Text),
     Property<&IKSLSText::GetText, &IKSLSText::SetText>(ckTxt, cmd::LevelText),
@@ -155,14 +182,21 @@ const TProperty& Find(TVGRCmdKind kind, std::int32_t index) {
     return *row;
 }
 
-std::string Snapshot(const TVGRBaseItem& item) {
+// Nothing for an item that the binary form cannot hold.
+TVGRCmdValue Snapshot(const TVGRBaseItem& item) {
     TBinaryWriter writer;
     writer.Write(CurrentVersion);
-    item.WriteData(writer);
+    try {
+        item.WriteData(writer);
+    } catch (const EOutOfRange&) {
+        return {};
+    }
     return writer.Take();
 }
 
-void Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t index) { item.KSLab().Record(item, kind, index); }
+bool Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t index) {
+    return item.KSLab().Record(item, kind, index);
+}
 
 } // namespace
 
@@ -176,35 +210,28 @@ void RestoreState(TVGRBaseItem& item, const TVGRCmd& command) {
     Find(command.fKind, command.fIndex).set(item, command.fIndex, command.fValue);
 }
 
-void TVGRColorCmd::AddCommand(TVGRBaseItem& item, cmd::TColorIndex index) {
-    Record(item, ckColor, index);
-    item.KSLab().AddState(lsUpdate);
+bool TVGRColorCmd::AddCommand(TVGRBaseItem& item, cmd::TColorIndex index) {
+    return Record(item, ckColor, index);
 }
 
-void TVGRCreateCmd::AddCommand(TVGRBaseItem& item) { Record(item, ckCreate, 0); }
+bool TVGRCreateCmd::AddCommand(TVGRBaseItem& item) { return Record(item, ckCreate, 0); }
 
-void TVGRDeleteCmd::AddCommand(TVGRBaseItem& item) {
-    try {
-        Record(item, ckDelete, 0);
-    } catch (const EOutOfRange&) {
-        // Too large for a snapshot: the item goes all the same, for good.
-    }
+bool TVGRDeleteCmd::AddCommand(TVGRBaseItem& item) { return Record(item, ckDelete, 0); }
+
+bool TVGRBaseValueCmd::AddCommand(TVGRBaseItem& item, cmd::TBaseValueIndex index) { return Record(item, ckBaseValue, index); }
+bool TVGRBoolCmd::AddCommand(TVGRBaseItem& item, cmd::TBoolIndex index) { return Record(item, ckBool, index); }
+bool TVGREnumValueCmd::AddCommand(TVGRBaseItem& item, cmd::TEnumIndex index) { return Record(item, ckEnumValue, index); }
+
+bool TVGRPosCmd::AddCommand(TVGRBaseItem& item, int point, TKSLPosType type) {
+    return Record(item, type == ptX ? ckPosX : ckPosY, point);
 }
 
-void TVGRBaseValueCmd::AddCommand(TVGRBaseItem& item, cmd::TBaseValueIndex index) { Record(item, ckBaseValue, index); }
-void TVGRBoolCmd::AddCommand(TVGRBaseItem& item, cmd::TBoolIndex index) { Record(item, ckBool, index); }
-void TVGREnumValueCmd::AddCommand(TVGRBaseItem& item, cmd::TEnumIndex index) { Record(item, ckEnumValue, index); }
-
-void TVGRPosCmd::AddCommand(TVGRBaseItem& item, int point, TKSLPosType type) {
-    Record(item, type == ptX ? ckPosX : ckPosY, point);
+bool TVGRBasePosCmd::AddCommand(TVGRBaseItem& item, cmd::TPointKind kind, int point) {
+    return Record(item, kind == cmd::ItemPoint ? ckItemPoint : ckLinkPoint, point);
 }
 
-void TVGRBasePosCmd::AddCommand(TVGRBaseItem& item, cmd::TPointKind kind, int point) {
-    Record(item, kind == cmd::ItemPoint ? ckItemPoint : ckLinkPoint, point);
-}
-
-void TVGRElePosCmd::AddCommand(TVGRBaseItem& item) { Record(item, ckElePos, 0); }
-void TVGRTxtCmd::AddCommand(TVGRBaseItem& item, cmd::TTextIndex index) { Record(item, ckTxt, index); }
-void TVGRFloatCmd::AddCommand(TVGRBaseItem& item, cmd::TFloatIndex index) { Record(item, ckFloat, index); }
+bool TVGRElePosCmd::AddCommand(TVGRBaseItem& item) { return Record(item, ckElePos, 0); }
+bool TVGRTxtCmd::AddCommand(TVGRBaseItem& item, cmd::TTextIndex index) { return Record(item, ckTxt, index); }
+bool TVGRFloatCmd::AddCommand(TVGRBaseItem& item, cmd::TFloatIndex index) { return Record(item, ckFloat, index); }
 
 } // namespace vagrel

@@ -2,6 +2,8 @@
 // A command as the undo stacks keep it: which property of which item, and what it was.
 #pragma once
 
+#include <vagrel/document/TVGRCmd.h>
+#include <vagrel/document/TVGRReceiver_p.h>
 #include <vagrel/foundation/Records.h>
 #include <vagrel/foundation/TKSLSet.h>
 
@@ -10,31 +12,6 @@
 #include <variant>
 
 namespace vagrel {
-
-class TVGRBaseItem;
-
-enum TVGRCmdKind : std::int32_t {
-    ckColor,
-    ckCreate,
-    ckDelete,
-    ckBaseValue,
-    ckBool,
-    ckEnumValue,
-    ckPosX,
-    ckPosY,
-    ckItemPoint,
-    ckLinkPoint,
-    ckElePos,
-    ckTxt,
-    ckFloat
-};
-
-/// An item as its commands know it, shared by the item and all of them. It outlives the item, and an item that is made
-/// anew takes its place here: thus every command follows at once.
-struct TVGRReceiver {
-    std::int32_t fID;   ///< the number of the item when its first command was recorded
-    TVGRBaseItem* item; ///< null while there is none
-};
 
 /// Integers, colours, enumerations and booleans are one alternative; std::string is the snapshot of a deleted item.
 using TVGRCmdValue = std::variant<std::monostate, std::int64_t, float, std::u16string, TKSLPto, TKSLPtoA, std::string>;

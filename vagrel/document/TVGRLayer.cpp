@@ -28,9 +28,11 @@ TVGRLayer::~TVGRLayer() { fOwner.Forget(*this); }
 template <class Action>
 void TVGRLayer::ForEachItem(Action action) {
     const UpdateScope bracket(fOwner);
+    std::vector<TVGRBaseItem*> items;
     for (int i = 1; i <= fOwner.ItemsCount(); ++i)
         if (&fOwner.GetItem(i)->GetLayer() == this)
-            action(*fOwner.GetItem(i));
+            items.push_back(fOwner.GetItem(i));
+    ForEachLiving(items, action);
 }
 
 template <class T>
@@ -80,18 +82,23 @@ void TVGRLayer::SetFontColor(TAlphaColor value, bool apply) {
 
 void TVGRLayer::SetValues() {
     ForEachItem([this](TVGRBaseItem& item) {
-        item.SetColor(fColor);
         item.StorePenWidth(fPenWidth);
         if (auto* area = dynamic_cast<TVGR2DItem*>(&item))
             area->StoreBackColor(fBackColor);
-        if (auto* font = Query<IKSLFont>(&item)) {
-            font->SetFontColor(fFont.color);
-            font->SetFontName(fFont.name);
-            font->SetFontHeight(GetFontHeight());
-            font->SetBold(fFont.bold);
-            font->SetItalic(fFont.italic);
-            font->SetUnderline(fFont.underline);
-        }
+        auto* font = Query<IKSLFont>(&item);
+        // Each setter tells the host, which may end the item.
+        const TItemHandle alive(item);
+        item.SetColor(fColor);
+        auto set = [&](auto setter, auto value) {
+            if (alive && font)
+                (font->*setter)(value);
+        };
+        set(&IKSLFont::SetFontColor, fFont.color);
+        set(&IKSLFont::SetFontName, std::u16string_view(fFont.name));
+        set(&IKSLFont::SetFontHeight, GetFontHeight());
+        set(&IKSLFont::SetBold, fFont.bold);
+        set(&IKSLFont::SetItalic, fFont.italic);
+        set(&IKSLFont::SetUnderline, fFont.underline);
     });
 }
 

@@ -69,7 +69,8 @@ bool TVGRBaseLabel::MoveBasePoint(std::int64_t bx, std::int64_t by, std::int64_t
     const TKSLPto after{bx == -1 ? before.bX : bx, by == -1 ? before.bY : by};
     if (after == before)
         return false;
-    TVGRBasePosCmd::AddCommand(item, link ? cmd::LinkPoint : cmd::ItemPoint, index);
+    if (!TVGRBasePosCmd::AddCommand(item, link ? cmd::LinkPoint : cmd::ItemPoint, index))
+        return false;
     if (link)
         link->SetBasePoint(index, after.bX, after.bY, false);
     else
@@ -183,8 +184,9 @@ bool TVGRBaseLabel::DragRadius(TKSLPto pointer) {
     // A centre off the page leaves no room.
     rx = std::max<std::int64_t>(rx, 0), ry = std::max<std::int64_t>(ry, 0);
     const auto* round = Query<IKSLRadio>(item);
-    if (TAct::GetMoveType() == mtRadio && round && round->GetBaseRadio() != rx)
-        TVGRBaseValueCmd::AddCommand(*item, cmd::Radio);
+    if (TAct::GetMoveType() == mtRadio && round && round->GetBaseRadio() != rx &&
+        !TVGRBaseValueCmd::AddCommand(*item, cmd::Radio))
+        return false;
     item->AssignPoints({{SubSat(cx, rx), SubSat(cy, ry)}, {AddSat(cx, rx), AddSat(cy, ry)}});
     FillSelPoints();
     return true;
@@ -211,8 +213,7 @@ bool TVGRBaseLabel::MoveGridEditor(std::int64_t bx, std::int64_t by, std::int64_
     }
     if (common.IsZero())
         return false;
-    for (std::size_t i = 0; i < fSelection.size(); ++i)
-        fSelection[i]->BaseMove(common.X, common.Y, 0, 0, moAll, true);
+    ForEachLiving(fSelection, [&](TVGRBaseItem& item) { item.BaseMove(common.X, common.Y, 0, 0, moAll, true); });
     if (refLines)
         FillRefLines();
     Recalculate();

@@ -38,7 +38,7 @@ void TVGRBaseLabel::Unselect(TVGRBaseItem& item) {
     item.SetState(isNormal);
     if (OnUnSelectItem)
         OnUnSelectItem(*this, item);
-    std::erase(fSelection, &item);
+    std::erase(fSelection, &item); // its address alone: the event may have ended it
 }
 
 void TVGRBaseLabel::SelectionPicked(TTypes texts) {
@@ -70,9 +70,11 @@ bool TVGRBaseLabel::SearchSelection(std::int64_t bx, std::int64_t by, std::int64
     if (selected) {
         Unselect(*hit);
     } else {
+        const TItemHandle alive(*hit);
         if (!shift.Has(ssShift))
             ClearSelection(false);
-        AddToSelection(*hit, false);
+        if (alive)
+            AddToSelection(*hit, false);
     }
     if (refLines)
         FillRefLines();
@@ -107,7 +109,7 @@ bool TVGRBaseLabel::SearchRef(std::int64_t bx, std::int64_t by, std::int64_t gap
         // A change may replace a reference by another item.
         const std::vector<TVGRBaseItem*> references = fSelection;
         for (TVGRBaseItem* item : references)
-            if (Selected(*item) && GeometryTypes.Has(item->GetItemType()) && item->Pick(bx, by, gap, false) &&
+            if (std::ranges::count(fSelection, item) > 0 && GeometryTypes.Has(item->GetItemType()) && item->Pick(bx, by, gap, false) &&
                 UpdateCurAction(*item, bx, by))
                 return true;
     }

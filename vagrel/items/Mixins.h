@@ -3,7 +3,6 @@
 #pragma once
 
 #include <vagrel/document/TVGR2DItem.h>
-#include <vagrel/document/TVGRCmd.h>
 #include <vagrel/foundation/Units.h>
 #include <vagrel/persistence/TBinaryWriter.h>
 #include <vagrel/persistence/TJsonObject.h>
@@ -15,13 +14,7 @@ template <class Base>
 class WithLineType : public Base, public IKSLStyle {
 public:
     TKSLineType GetLineType() const override { return fLineType; }
-    void SetLineType(TKSLineType value) override {
-        if (value == fLineType)
-            return;
-        TVGREnumValueCmd::AddCommand(*this, cmd::LineType);
-        fLineType = value;
-        this->StateUpdate();
-    }
+    void SetLineType(TKSLineType value) override { this->Store(fLineType, value, cmd::LineType); }
 
 protected:
     using Base::Base;

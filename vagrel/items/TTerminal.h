@@ -3,7 +3,6 @@
 #pragma once
 
 #include <vagrel/document/TVGRBaseItem.h>
-#include <vagrel/document/TVGRCmd.h>
 #include <vagrel/foundation/Units.h>
 
 namespace vagrel {
@@ -79,18 +78,10 @@ protected:
 
 private:
     void StoreType(TTerminal& term, TKSLTermType value, cmd::TEnumIndex index) {
-        if (value == term.type)
-            return;
-        TVGREnumValueCmd::AddCommand(*this, index);
-        term.type = value;
-        this->StateUpdate();
+        this->Store(term.type, value, index);
     }
     void StoreColor(TTerminal& term, TAlphaColor value, cmd::TColorIndex index) {
-        if (value == term.color)
-            return;
-        TVGRColorCmd::AddCommand(*this, index);
-        term.color = value;
-        this->StateUpdate();
+        this->Store(term.color, value, index);
     }
     void StoreSize(TTerminal& term, float mm, cmd::TBaseValueIndex index) {
         if (TTerminal::ClampSize(SetBaseValue(mm)) != term.size)
@@ -98,7 +89,8 @@ private:
     }
     // Undo comes here with the value that stood before, so the change is recorded whatever it is.
     void StoreBaseSize(TTerminal& term, std::int32_t value, cmd::TBaseValueIndex index) {
-        TVGRBaseValueCmd::AddCommand(*this, index);
+        if (!this->Record(index))
+            return;
         term.size = TTerminal::ClampSize(value);
         this->StateUpdate();
     }

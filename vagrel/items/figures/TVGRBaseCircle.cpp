@@ -15,9 +15,8 @@ TVGRBaseCircle::TVGRBaseCircle(TVGRBaseLabel& owner, TVGRLayer& layer, bool prev
 void TVGRBaseCircle::SetRadio(float value) { SetBaseRadio(SetValue(value, fOwner.GetUnits())); }
 
 void TVGRBaseCircle::SetBaseRadio(std::int64_t value) {
-    if (value == fBaseRadioX)
+    if (value == fBaseRadioX || !Record(cmd::Radio))
         return;
-    TVGRBaseValueCmd::AddCommand(*this, cmd::Radio);
     Rebuild(value, value);
     StateUpdate();
 }

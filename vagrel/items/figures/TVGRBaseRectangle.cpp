@@ -21,13 +21,7 @@ void TVGRBaseRectangle::SetRadio(float value) {
     SetBaseRadio(std::min(SetValue(value, fOwner.GetUnits()), BaseHeight() / 2));
 }
 
-void TVGRBaseRectangle::SetBaseRadio(std::int64_t value) {
-    if (value == fRadio)
-        return;
-    TVGRBaseValueCmd::AddCommand(*this, cmd::Radio);
-    fRadio = value;
-    StateUpdate();
-}
+void TVGRBaseRectangle::SetBaseRadio(std::int64_t value) { Store(fRadio, value, cmd::Radio); }
 
 TKSLShape TVGRBaseRectangle::Shape() const {
     const TKSLPto a = At(1), b = At(2);

@@ -42,9 +42,8 @@ std::int64_t TVGRRoundItem::KeptOnLabel(std::int64_t center, std::int64_t radius
 
 void TVGRRoundItem::SetCenterX(float value) {
     const std::int64_t center = SetValue(value, fOwner.GetUnits());
-    if (center == fBaseX)
+    if (center == fBaseX || !Record(cmd::CenterX))
         return;
-    TVGRFloatCmd::AddCommand(*this, cmd::CenterX);
     fBaseX = KeptOnLabel(center, fBaseRadioX, mtLabelWidth);
     Rebuild(fBaseRadioX, fBaseRadioY);
     StateUpdate();
@@ -52,9 +51,8 @@ void TVGRRoundItem::SetCenterX(float value) {
 
 void TVGRRoundItem::SetCenterY(float value) {
     const std::int64_t center = SetValue(value, fOwner.GetUnits());
-    if (center == fBaseY)
+    if (center == fBaseY || !Record(cmd::CenterY))
         return;
-    TVGRFloatCmd::AddCommand(*this, cmd::CenterY);
     fBaseY = KeptOnLabel(center, fBaseRadioY, mtLabelHeight);
     Rebuild(fBaseRadioX, fBaseRadioY);
     StateUpdate();

@@ -28,9 +28,8 @@ TVGRBaseText::TVGRBaseText(TVGRBaseLabel& owner, TVGRLayer& layer, bool preview)
 }
 
 void TVGRBaseText::SetText(std::u16string_view value) {
-    if (value == fText)
+    if (value == fText || !Record(cmd::Text))
         return;
-    TVGRTxtCmd::AddCommand(*this, cmd::Text);
     fText = value;
     if (FillType() != ftNone && !fText.empty()) {
         fBinding.type = ftNone;
@@ -38,7 +37,8 @@ void TVGRBaseText::SetText(std::u16string_view value) {
         aIsData = false;
     }
     dText = fText;
-    if (fState != isSelected)
+    // The editor of a selected text measures it at the end; undo has nobody else who would.
+    if (fState != isSelected || fOwner.IsReplaying())
         StateCalc();
 }
 
@@ -53,83 +53,28 @@ TFontStyles TVGRBaseText::Style() const {
 
 TKSLSPoint TVGRBaseText::Position(const TVGRBaseDraw& draw) const { return {At(1).DrawX(draw), At(1).DrawY(draw)}; }
 
-void TVGRBaseText::SetScaleX(float value) {
-    value = std::clamp(value, 0.4f, 2.0f);
-    if (value == fScaleX)
-        return;
-    fScaleX = value;
-    StateCalc();
-}
+void TVGRBaseText::SetScaleX(float value) { Store(fScaleX, std::clamp(value, 0.4f, 2.0f), {}, TFollow::Calc); }
 
 void TVGRBaseText::SetFontName(std::u16string_view value) {
-    if (value == fFont.name)
-        return;
-    TVGRTxtCmd::AddCommand(*this, cmd::FontName);
-    fFont.name = value;
-    StateCalc();
+    Store(fFont.name, std::u16string(value), cmd::FontName, TFollow::Calc);
 }
 
 float TVGRBaseText::GetFontHeight() const { return GetBaseValue(fFont.height); }
 
 void TVGRBaseText::SetFontHeight(float mm) {
-    const std::int32_t height = std::max(ToInt32(SetBaseValue(mm)), SmallestFont);
-    if (height == fFont.height)
-        return;
-    fFont.height = height;
-    StateCalc();
+    Store(fFont.height, std::max(ToInt32(SetBaseValue(mm)), SmallestFont), {}, TFollow::Calc);
 }
 
-void TVGRBaseText::SetFontColor(TAlphaColor value) {
-    if (value == fFont.color)
-        return;
-    TVGRColorCmd::AddCommand(*this, cmd::Font);
-    fFont.color = value;
-    StateUpdate();
-}
-
-void TVGRBaseText::StoreStyle(bool& field, bool value, cmd::TBoolIndex index) {
-    if (value == field)
-        return;
-    TVGRBoolCmd::AddCommand(*this, index);
-    field = value;
-    StateCalc();
-}
+void TVGRBaseText::SetFontColor(TAlphaColor value) { Store(fFont.color, value, cmd::Font); }
 
 void TVGRBaseText::SetStrikeout(bool value) {
-    if (value == fFont.strikeout)
-        return;
-    fFont.strikeout = value;
-    fChanged = true;
-    StateUpdate();
+    if (value != fFont.strikeout)
+        fChanged = true;
+    Store(fFont.strikeout, value);
 }
 
-void TVGRBaseText::SetBackColor(TAlphaColor value) {
-    if (value == fBackColor)
-        return;
-    TVGRColorCmd::AddCommand(*this, cmd::BackInterface);
-    fBackColor = value;
-    StateUpdate();
-}
-
-void TVGRBaseText::SetFilled(bool value) {
-    if (value == fFill)
-        return;
-    TVGRBoolCmd::AddCommand(*this, cmd::Filled);
-    fFill = value;
-    StateUpdate();
-}
-
-template <class T>
-void TVGRBaseText::StorePlace(T& field, T value) {
-    if (value == field)
-        return;
-    field = value;
-    UpdateBounds();
-    StateUpdate();
-}
-template void TVGRBaseText::StorePlace(TKSLHorzAlign&, TKSLHorzAlign);
-template void TVGRBaseText::StorePlace(TKSLVertAlign&, TKSLVertAlign);
-template void TVGRBaseText::StorePlace(TKSLAngle&, TKSLAngle);
+void TVGRBaseText::SetBackColor(TAlphaColor value) { Store(fBackColor, value, cmd::BackInterface); }
+void TVGRBaseText::SetFilled(bool value) { Store(fFill, value, cmd::Filled); }
 
 float TVGRBaseText::GetPaddingX() const { return GetBaseValue(fPaddingX); }
 float TVGRBaseText::GetPaddingY() const { return GetBaseValue(fPaddingY); }
@@ -137,12 +82,7 @@ void TVGRBaseText::SetPaddingX(float mm) { StorePadding(fPaddingX, mm); }
 void TVGRBaseText::SetPaddingY(float mm) { StorePadding(fPaddingY, mm); }
 
 void TVGRBaseText::StorePadding(std::int32_t& field, float mm) {
-    const std::int32_t base = std::max(ToInt32(SetBaseValue(mm)), 0);
-    if (base == field)
-        return;
-    field = base;
-    UpdateBounds();
-    StateUpdate();
+    Store(field, std::max(ToInt32(SetBaseValue(mm)), 0), {}, TFollow::Bounds);
 }
 
 float TVGRBaseText::GetRadio() const { return GetBaseValue(fRadio); }
@@ -152,12 +92,7 @@ void TVGRBaseText::SetRadio(float mm) {
     SetBaseRadio(fMeasured.height > 0 ? std::min<std::int64_t>(base, fMeasured.height / 2) : base);
 }
 
-void TVGRBaseText::SetBaseRadio(std::int64_t value) {
-    if (value == fRadio)
-        return;
-    fRadio = value;
-    StateUpdate();
-}
+void TVGRBaseText::SetBaseRadio(std::int64_t value) { Store(fRadio, value); }
 
 // Data
 

@@ -4,7 +4,6 @@
 
 #include <vagrel/document/TFont.h>
 #include <vagrel/document/TVGRBaseItem.h>
-#include <vagrel/document/TVGRCmd.h>
 #include <vagrel/items/TDataBinding.h>
 
 namespace vagrel {
@@ -63,11 +62,11 @@ public:
     TAlphaColor GetFontColor() const override { return fFont.color; }
     void SetFontColor(TAlphaColor value) override;
     bool GetBold() const override { return fFont.bold; }
-    void SetBold(bool value) override { StoreStyle(fFont.bold, value, cmd::Bold); }
+    void SetBold(bool value) override { Store(fFont.bold, value, cmd::Bold, TFollow::Calc); }
     bool GetItalic() const override { return fFont.italic; }
-    void SetItalic(bool value) override { StoreStyle(fFont.italic, value, cmd::Italic); }
+    void SetItalic(bool value) override { Store(fFont.italic, value, cmd::Italic, TFollow::Calc); }
     bool GetUnderline() const override { return fFont.underline; }
-    void SetUnderline(bool value) override { StoreStyle(fFont.underline, value, cmd::Underline); }
+    void SetUnderline(bool value) override { Store(fFont.underline, value, cmd::Underline, TFollow::Calc); }
     void SetStrikeout(bool value) override;
     const TFont& Font() const { return fFont; }
     TAlphaColor GetBackColor() const override { return fBackColor; }
@@ -75,11 +74,11 @@ public:
     bool GetFilled() const override { return fFill; }
     void SetFilled(bool value) override;
     TKSLHorzAlign GetHorzAlign() const override { return fHorzAlign; }
-    void SetHorzAlign(TKSLHorzAlign value) override { StorePlace(fHorzAlign, value); }
+    void SetHorzAlign(TKSLHorzAlign value) override { Store(fHorzAlign, value, {}, TFollow::Bounds); }
     TKSLVertAlign GetVertAlign() const override { return fVertAlign; }
-    void SetVertAlign(TKSLVertAlign value) override { StorePlace(fVertAlign, value); }
+    void SetVertAlign(TKSLVertAlign value) override { Store(fVertAlign, value, {}, TFollow::Bounds); }
     TKSLAngle GetAngle() const override { return fAngle; }
-    void SetAngle(TKSLAngle value) override { StorePlace(fAngle, value); }
+    void SetAngle(TKSLAngle value) override { Store(fAngle, value, {}, TFollow::Bounds); }
     /// Millimetres, not negative.
     float GetPaddingX() const override;
     float GetPaddingY() const override;
@@ -133,9 +132,6 @@ protected:
     void ReadFields(std::int32_t version, TBinaryReader& reader) override;
 
 private:
-    void StoreStyle(bool& field, bool value, cmd::TBoolIndex index);
-    template <class T>
-    void StorePlace(T& field, T value);
     void StorePadding(std::int32_t& field, float mm);
     void ShowBinding();
     /// Which end of the display width stays, and where it lies along the text.

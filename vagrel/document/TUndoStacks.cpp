@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+// Grouping and coalescing of commands.
+#include <vagrel/document/TUndoStacks_p.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace vagrel::detail {
+
+std::int32_t TUndoStacks::NextGroup() {
+    if (replay != TReplay::None)
+        return fUnReRef;
+    return fIncUnReID ? fUnReID++ : fUnReID;
+}
+
+void TUndoStacks::CloseGroup() {
+    ++fUnReID;
+    fIncUnReID = true;
+}
+
+bool TUndoStacks::Coalesces(TVGRCmdKind kind, std::int32_t index, const std::shared_ptr<TVGRReceiver>& receiver) {
+    const TStack& stack = Recording();
+    return CoalescingCmds.Has(kind) && !stack.empty() && stack.back().Is(kind, index, receiver) &&
+           (replay == TReplay::None || stack.back().fUndRedID == fUnReRef);
+}
+
+void TUndoStacks::DropLast(TVGRCmdKind kind, std::int32_t index, const std::shared_ptr<TVGRReceiver>& receiver) {
+    TStack& stack = Recording();
+    if (!stack.empty() && stack.back().Is(kind, index, receiver))
+        stack.pop_back();
+}
+
+bool TUndoStacks::DropConstruction(const std::shared_ptr<TVGRReceiver>& receiver) {
+    TStack& stack = Recording();
+    auto first = stack.end();
+    while (first != stack.begin() && std::prev(first)->fReceiver == receiver) {
+        --first;
+        if (first->fKind == ckDelete)
+            return false;
+        if (first->fKind == ckCreate) {
+            stack.erase(first, stack.end());
+            return true;
+        }
+    }
+    return false;
+}
+
+TUndoStacks::TStack TUndoStacks::TakeStep(TStack& stack) {
+    TStack step;
+    if (stack.empty())
+        return step;
+    fUnReRef = stack.back().fUndRedID;
+    while (!stack.empty() && stack.back().fUndRedID == fUnReRef) {
+        step.push_back(std::move(stack.back()));
+        stack.pop_back();
+    }
+    return step;
+}
+
+void TUndoStacks::PutBack(TStack& stack, TStack& step) {
+    std::move(step.rbegin(), step.rend(), std::back_inserter(stack));
+}
+
+void TUndoStacks::Clear() {
+    fUnReID = 0;
+    ++fTimesCleared;
+    undo.clear();
+    redo.clear();
+}
+
+} // namespace vagrel::detail
