@@ -84,6 +84,8 @@ void TVGRBaseLabel::Step(TReplay direction) {
         FillSelPoints();
     Refresh();
     TellUndoRedo();
+    if (GetFreshCrossings())
+        CheckIntersetions();
 }
 
 void TVGRBaseLabel::Replay(const TVGRCmd& command, TReplay direction) {
