@@ -88,7 +88,7 @@ bool TVGRBaseLabel::MoveBasePoint(std::int64_t bx, std::int64_t by, std::int64_t
 
 void TVGRBaseLabel::MoveEditor(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY, bool refLines,
                                bool fromKeyboard) {
-    if (bx == 0 && by == 0)
+    if (!GetEditable() || (bx == 0 && by == 0))
         return;
     bool moved;
     if (!fromKeyboard)
@@ -188,6 +188,8 @@ bool TVGRBaseLabel::DragRadius(TKSLPto pointer) {
 
 bool TVGRBaseLabel::MoveGridEditor(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY,
                                    bool refLines) {
+    if (!GetEditable())
+        return false;
     const std::int64_t gx = AdjustGrid(bx, grX), gy = AdjustGrid(by, grY);
     if (fSelection.size() > 1 && TAct::GetAction() == eaMove && TAct::GetMoveType() == mtObjects) {
         const auto step = fGroupDrag->Step({gx, gy});
