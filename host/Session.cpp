@@ -165,7 +165,7 @@ void Session::PlayLine(std::string_view line) {
     const TFinally flush{[this] { Flush(); }};
     row.play(*this, SessionArguments(json));
     // The results of the intersection worker belong to the line that started it.
-    while (label.GetComputActive())
+    while (label.GetComputActive() && MainThread().CanPump())
         MainThread().WaitAndPump(Pause);
     Flush();
     if (!fTrace || row.operation.name == u"expect")

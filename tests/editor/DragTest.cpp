@@ -111,6 +111,27 @@ TEST_F(Drag, SeveralItemsOnTheGridKeepTheirGrab) {
     EXPECT_EQ(box.GetPoint(1), (TKSLPto{12100, 9000}));
 }
 
+TEST_F(Drag, ADocumentThatIsNotEditableStays) {
+    for (const auto& forbid : std::initializer_list<std::function<void()>>{
+             [&] { label.SetEditable(false); }, [&] { label.SetEditable(true), label.SetEditorMode(emInteractive); }}) {
+        forbid();
+        for (TVGRBaseItem* item : {&box, &line}) {
+            Select({item});
+            Begin(mtObjects);
+            Step(1000, 1000);
+            GridTo(20000, 20000);
+            label.MoveEditor(1000, 1000, 0, 0, false, true);
+        }
+        Select({&box, &line});
+        Begin(mtObjects);
+        for (const std::int64_t x : {20000, 30000})
+            EXPECT_FALSE(GridTo(x, x));
+        EXPECT_EQ(Told(), TChanges{});
+    }
+    EXPECT_EQ(box.GetPoint(1), (TKSLPto{10000, 10000}));
+    EXPECT_EQ(line.GetPoint(1), (TKSLPto{50000, 20000}));
+}
+
 TEST_F(Drag, OneItemGoesToTheGridPoint) {
     Select({&box});
     Begin(mtObjects);

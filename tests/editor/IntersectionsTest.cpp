@@ -79,15 +79,26 @@ TEST_F(Intersections, DeletedItemsTakeTheirsAlongAtOnce) {
     EXPECT_EQ(Places(), TKSLPtoA{});
 }
 
-TEST_F(Intersections, ARequestDuringAComputationIsDropped) {
-    label.CheckIntersetions();
-    EXPECT_TRUE(label.GetComputActive());
-    label.CreateLine(12000, 5000, 12000, 20000);
-    label.CheckIntersetions();
-    Settle();
-    EXPECT_EQ(Places().size(), 3u) << "without the new line";
-    Compute();
-    EXPECT_EQ(Places().size(), 4u);
+TEST_F(Intersections, StayBehindEditsOnlyWhereTheyNeedNotBeFresh) {
+    EXPECT_TRUE(label.GetFreshCrossings()) << "the choice of the reference host";
+    for (const bool fresh : {false, true}) {
+        label.SetFreshCrossings(fresh);
+        Compute();
+        label.CheckIntersetions();
+        EXPECT_TRUE(label.GetComputActive());
+        TVGRBaseItem& line = label.CreateLine(12000, 5000, 12000, 20000);
+        label.CheckIntersetions();
+        Settle();
+        EXPECT_EQ(Places().size(), fresh ? 4u : 3u) << "with the new line when its request was remembered";
+        Compute();
+        label.DeleteItem(line, true);
+        for (const std::size_t places : {4u, 3u}) {
+            places == 4 ? label.Undo() : label.Redo();
+            EXPECT_EQ(label.GetComputActive(), fresh);
+            Settle();
+            EXPECT_EQ(Places().size(), fresh ? places : 3u);
+        }
+    }
 }
 
 TEST_F(Intersections, ADocumentThatIsClearedDoesNotGetTheOldOnes) {
@@ -118,6 +129,25 @@ TEST_F(Intersections, ADocumentMayDieWhileTheyAreComputed) {
         dying.CheckIntersetions();
     }
     MainThread().Pump();
+}
+
+// Work that was posted is the event loop's: a document that ends runs none of it, neither here nor on its own thread.
+TEST_F(Intersections, ADocumentThatDiesDoesNobodysWork) {
+    for (const bool elsewhere : {false, true}) {
+        auto dying = std::make_unique<TestHost>();
+        Scatter(*dying, 300);
+        dying->CheckIntersetions();
+        int done = 0;
+        MainThread().Post([&] { done += dying ? 100 : 1; });
+        if (elsewhere)
+            std::thread([&] { dying.reset(); }).join();
+        else
+            dying.reset();
+        EXPECT_EQ(done, 0);
+        while (MainThread().Pump()) { // and the worker's report finds nobody
+        }
+        EXPECT_EQ(done, 1);
+    }
 }
 
 TEST_F(Intersections, TheMainThreadEditsMeanwhile) {

@@ -328,6 +328,20 @@ TEST_F(Sessions, TheRightButtonAddsVerticesAndLeaves) {
     EXPECT_EQ(label.ItemsCount(), 1);
 }
 
+TEST_F(Sessions, TheRightButtonOnlyLeavesWhatIsNotEditable) {
+    TVGRBaseItem& chain = label.CreatePolyLine({{0, 0}, {10000, 0}, {10000, 10000}});
+    label.SetSelection(&chain, isSelected);
+    label.SetEditable(false);
+    Play(Event("RightButton", {5000, 200}));
+    EXPECT_EQ(chain.NumPoints(), 3);
+    label.SetEditable(true);
+    Play(Tool("eaPolyline") + "\n" + Event("PickEditor", {1, 1}) + "\n" + Event("PickEditor", {5000, 5000}));
+    label.SetEditable(false);
+    Play(Event("RightButton", {5000, 5000}));
+    EXPECT_EQ(Where(), "eaSelection edPickPoint");
+    EXPECT_EQ(label.ItemsCount(), 1);
+}
+
 TEST_F(Sessions, ReferencesAreChosenBeforeTheCut) {
     label.CreateLine(0, 0, 20000, 0);
     label.CreateLine(5000, 5000, 5000, 20000);

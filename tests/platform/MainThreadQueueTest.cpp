@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Work for the main thread: order, waiting, exceptions, closing.
+// Work for the main thread: order, waiting, exceptions, closing, and who may do it.
 #include <vagrel/platform/MainThreadQueue.h>
 
 #include <vagrel/foundation/Exceptions.h>
@@ -50,6 +50,28 @@ TEST_F(Queue, AnExceptionOfPostedWorkKeepsTheRest) {
     EXPECT_THROW(queue.Pump(), std::runtime_error);
     queue.Pump();
     EXPECT_EQ(done, std::vector{1});
+}
+
+TEST_F(Queue, NobodyButTheEventLoopOfTheMainThreadPumps) {
+    std::size_t nested = 1;
+    queue.Post([&] {
+        EXPECT_FALSE(queue.CanPump());
+        nested = queue.Pump() + queue.WaitAndPump(10s); // one tool inside another
+        queue.Synchronize(Note(1));                     // at once all the same
+        throw std::runtime_error("bad");
+    });
+    queue.Post(Note(2));
+    std::thread([&] {
+        EXPECT_FALSE(queue.CanPump());
+        EXPECT_EQ(queue.Pump() + queue.WaitAndPump(10s), 0u);
+    }).join();
+    EXPECT_EQ(done, std::vector<int>{});
+    EXPECT_THROW(queue.Pump(), std::runtime_error);
+    EXPECT_EQ(nested, 0u);
+    EXPECT_EQ(done, std::vector{1});
+    EXPECT_TRUE(queue.CanPump());
+    EXPECT_EQ(queue.WaitAndPump(10s), 1u) << "after an exception too";
+    EXPECT_EQ(done, (std::vector{1, 2}));
 }
 
 TEST_F(Queue, SynchronizedWorkIsWaitedForAndThrowsAtItsCaller) {

@@ -9,8 +9,10 @@
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/document/TVGRSettings.h>
+#include <vagrel/editor/CrossingsWorker.h>
+#include <vagrel/editor/GroupDrag.h>
+#include <vagrel/editor/Guides.h>
 #include <vagrel/editor/TAct.h>
-#include <vagrel/editor/TIntersectThread.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/geo/TVGRMapping.h>
@@ -33,7 +35,9 @@ TVGRBaseLabel* TVGRBaseLabel::Create(TComponent*) {
 }
 
 TVGRBaseLabel::TVGRBaseLabel(TComponent* owner)
-    : TComponent(owner), fStacks(std::make_unique<detail::TUndoStacks>()), fIntersect(std::make_shared<TIntersections>()),
+    : TComponent(owner), fStacks(std::make_unique<detail::TUndoStacks>()), fGuides(std::make_unique<Guides>()),
+      fGroupDrag(std::make_unique<GroupDrag>()),
+      fCrossings(std::make_unique<CrossingsWorker>([this] { return FiguresOf(*this); })),
       fPrintInfo(std::make_unique<TVGRBasePrintInfo>(*this)), fData(std::make_unique<TVGRData>(*this)),
       fMeasure(std::make_unique<TVGRMeasure>(*this)), fMapping(std::make_unique<TVGRMapping>(*this)),
       fBackSurf(std::make_unique<TVGRBackSurf>(*this, true)), fSettings(std::make_unique<TVGRSettings>(*this)) {
@@ -48,9 +52,9 @@ void TVGRBaseLabel::Teardown() {
     if (fDestroying)
         return;
     fDestroying = true;
-    TerminarThread();
+    fCrossings->Stop();
     fMemCopy.clear();
-    fObservers.clear();
+    fObservers.Clear();
     Clear({cleAll, cleBaseLayer, cleBaseStyle}, false);
 }
 
@@ -83,10 +87,8 @@ void TVGRBaseLabel::Loaded() {
 
 void TVGRBaseLabel::Notification(TComponent* component, TOperation operation) {
     TComponent::Notification(component, operation);
-    // The observer is half destroyed: its address is compared, nothing of it is called.
     if (operation == opRemove)
-        std::erase_if(fObservers, [&](const TAttached& attached) { return attached.component == component; });
-    fConEditors = std::ranges::any_of(fObservers, [](const TAttached& attached) { return attached.dest == duEditor; });
+        fObservers.Forget(component);
 }
 
 void TVGRBaseLabel::New() {

@@ -6,16 +6,17 @@
 // _Undo (undo stacks), Selection.cpp, Selection_Move.cpp, Arrange.cpp, svg/SaveSVG.cpp, merge/PageFill.cpp,
 // merge/Values.cpp, merge/FieldLists.cpp, editor/Actions.cpp, PickEditor.cpp, Constructions.cpp, UpEditor.cpp,
 // RightButton.cpp, Picking.cpp, Snapping.cpp, Handles.cpp, Drag.cpp, LineSegments.cpp, Intersections.cpp.
+//
+// Its private machines are classes of their own: Observers, editor/Guides.h, GroupDrag.h and CrossingsWorker.h.
 #pragma once
 
 #include <vagrel/document/Events.h>
-#include <vagrel/document/IKSObserver.h>
+#include <vagrel/document/Observers.h>
 #include <vagrel/document/TFinally.h>
 #include <vagrel/document/TItemHandle.h>
 #include <vagrel/document/TKSSelectionValue.h>
 #include <vagrel/foundation/TComponent.h>
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -24,9 +25,10 @@
 
 namespace vagrel {
 
+class CrossingsWorker;
+class GroupDrag;
+class Guides;
 class IKSLText;
-class TIntersections;
-class TIntersectThread;
 class TBinaryReader;
 class TBinaryWriter;
 class TJsonObject;
@@ -89,6 +91,8 @@ public:
 
     // Changes
 
+    /// Tells the observers whom the change concerns; one outside the enumeration concerns nobody. All of them are told
+    /// before the first exception of one goes on.
     void ChangeValue(TKSChange change);
     void ChangeState(TVagrelState state, TVGRBaseItem& item);
     TKSChangeValue GetChangedValue(TKSChange change) const;
@@ -238,12 +242,18 @@ public:
     /// The image folder; a relative one lies in the folder of the running program.
     std::u16string GetAbsoluteImagePath() const;
 
-    TVGRMeasure& GetMeasure() const { return *fMeasure; }
-    TVGRBackSurf& GetBackSurf() const { return *fBackSurf; }
-    TVGRSettings& GetSettings() const { return *fSettings; }
-    TVGRMapping& GetMapping() const { return *fMapping; }
-    TVGRData& GetData() const { return *fData; }
-    TVGRBasePrintInfo& GetPrintInfo() const { return *fPrintInfo; }
+    TVGRMeasure& GetMeasure() { return *fMeasure; }
+    const TVGRMeasure& GetMeasure() const { return *fMeasure; }
+    TVGRBackSurf& GetBackSurf() { return *fBackSurf; }
+    const TVGRBackSurf& GetBackSurf() const { return *fBackSurf; }
+    TVGRSettings& GetSettings() { return *fSettings; }
+    const TVGRSettings& GetSettings() const { return *fSettings; }
+    TVGRMapping& GetMapping() { return *fMapping; }
+    const TVGRMapping& GetMapping() const { return *fMapping; }
+    TVGRData& GetData() { return *fData; }
+    const TVGRData& GetData() const { return *fData; }
+    TVGRBasePrintInfo& GetPrintInfo() { return *fPrintInfo; }
+    const TVGRBasePrintInfo& GetPrintInfo() const { return *fPrintInfo; }
     /// Copy the values of another object.
     void SetMeasure(const TVGRMeasure& value);
     void SetBackSurf(const TVGRBackSurf& value);
@@ -388,7 +398,7 @@ public:
     /// The left button goes up.
     void UpEditor(std::int64_t bx, std::int64_t by);
     /// The right button goes down: ends a chain of points or a choice of references, adds a vertex to the selected
-    /// chain (not recorded), or leaves the action.
+    /// chain (not recorded), or leaves the action, which is all that it does in a document that is not editable.
     void RightButton(std::int64_t bx, std::int64_t by, std::int64_t gap, TShiftState shift);
     /// Hides the first selected item and has the host open it in its text editor; nothing without a selection.
     void EditSelText();
@@ -427,7 +437,7 @@ public:
     /// Guides along which the one selected item is aligned with others, four at most.
     void FillRefLines();
     void ResetRefLines();
-    int NumRefLines() const { return fNumRefLines; }
+    int NumRefLines() const;
     /// From 1; all zero outside.
     TKSLRefLine GetRefLine(int index) const;
     /// Collects the links that are attached to selected items.
@@ -443,7 +453,8 @@ public:
 
     /// One step of a drag that `TAct::SetMove` opened, or of an arrow key. Objects and box handles read `bx`, `by` as
     /// the step with its sign reversed and `grX`, `grY` as the steps of the grid; the other handles read the pointer's
-    /// place and, where positive, its place on the grid. Records what moves.
+    /// place and, where positive, its place on the grid. Records what moves. Nothing moves in a document that is not
+    /// editable, by this and the next one.
     void MoveEditor(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY, bool refLines,
                     bool fromKeyboard);
     /// One step of a drag with the grid on, to the grid point nearest to the pointer; false when nothing moved. With
@@ -454,11 +465,15 @@ public:
     bool MoveBasePoint(std::int64_t bx, std::int64_t by, std::int64_t gx, std::int64_t gy, bool refLines,
                        bool checkBounds);
 
-    /// Starts a computation of all crossings of visible items on a worker; nothing while one runs. The worker reports
-    /// through the queue of the main thread, which the host pumps.
+    /// Starts a computation of all crossings of visible items on a worker; nothing while one runs, and on another
+    /// thread than the main one. The worker reports through the queue of the main thread, which the host pumps.
     void CheckIntersetions();
     /// True from the start of a computation until its end was reported.
-    bool GetComputActive() const { return fComputActive; }
+    bool GetComputActive() const;
+    /// Whether a request during a computation is made when that has reported, and undo and redo make one too. Without
+    /// it, the default, the crossings may stay behind until the next edit.
+    bool GetFreshCrossings() const;
+    void SetFreshCrossings(bool value);
     /// The crossings that were published last, in rising pairs of items.
     std::vector<TIntSecPoint> GetIntersections() const;
     void RemoveElementFromIntersections(std::int32_t id);
@@ -581,13 +596,6 @@ protected:
     void ReadClipboard(const std::function<void(std::int32_t version, TBinaryReader& reader)>& read);
 
 private:
-    /// An observer and what is known of it: it may be half destroyed when it is taken out.
-    struct TAttached {
-        IKSObserver* observer;
-        TComponent* component;
-        TKSDestUpdate dest;
-    };
-
     friend class UpdateScope;
     enum class TScope : std::uint8_t {
         Nested, ///< inside another scope: opens and closes nothing
@@ -672,24 +680,22 @@ private:
     void Unselect(TVGRBaseItem& item);
     /// Tells of a new selection; a single text of the given types that is not bound to data is opened instead.
     void SelectionPicked(TKSLSet<TKSLItemType> texts);
-    void ResetMultiDragState();
     /// A step of the drag; false when nothing moved. `DragRadius` and `DragShape` take the pointer's place.
     bool Drag(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY, bool refLines);
     bool DragRadius(TKSLPto pointer);
     bool DragShape(TKSLPto pointer);
-    void ThreadFinished();
-    /// Ends the computation, waiting up to three seconds, and pumps the queue of the main thread meanwhile.
-    void TerminarThread();
-    void EmptyIntersect();
 
     // Data
     void ActivateBindings();
     void GoToLabel(std::int64_t label);
     void WalkToLabel(std::int64_t label);
 
-    // First, since they outlive the items, whose ends they are told of.
+    // What items call while they are destroyed stands before their lists, and outlives them.
     std::unique_ptr<detail::TUndoStacks> fStacks;
-
+    Observers fObservers;
+    std::unique_ptr<Guides> fGuides;
+    std::unique_ptr<GroupDrag> fGroupDrag;
+    std::unique_ptr<CrossingsWorker> fCrossings;
     bool fEditable = true;
     bool fShowDispWidthHandle = false;
     TKSLEditorMode fEditorMode = emLabelling;
@@ -701,13 +707,9 @@ private:
     TOwned<TVGRBaseItem> fItems;
     TOwned<TVGRBaseItem> fPreview;
     TOwned<TVGRBaseLibSymbol> fSymbols;
-    std::shared_ptr<TIntersections> fIntersect;
-    std::unique_ptr<TIntersectThread> fThread;
-    bool fComputActive = false, fTerminando = false;
     TKSLUnits fUnits = unMM;
     std::unique_ptr<TVGRBasePrintInfo> fPrintInfo;
     std::unique_ptr<TVGRData> fData;
-    std::vector<TAttached> fObservers;
     std::unique_ptr<TVGRMeasure> fMeasure;
     std::unique_ptr<TVGRMapping> fMapping;
     std::unique_ptr<TVGRBackSurf> fBackSurf;
@@ -724,10 +726,7 @@ private:
     std::vector<TKSSelectionValue> fSelPoint;
     std::u16string fLngFileName;
     TKSLSInfo fInfo;
-    bool fConEditors = false;
     std::u16string fImageFolder, fOpenImgFolder, fLibraryFolder;
-    std::int64_t fMultiDragLastX = 0, fMultiDragLastY = 0;
-    bool fMultiDragHasLast = false;
     TKSChangeValue fChangeVal;
     TVGRBaseLibSymbol* fCurrentLibSym = nullptr;
     bool fStepping = false;
@@ -742,8 +741,6 @@ private:
     bool fNeedReadImg = false;
     TKSLAngle fAngle = ag0;
     std::string fMemCopy;
-    std::array<TKSLRefLine, 4> fRefLines;
-    int fNumRefLines = 0;
     bool fDestroying = false;
 };
 

@@ -135,6 +135,8 @@ void TVGRBaseLabel::Step(TReplay direction) {
         const TFinally calculated{[this] { RemoveState(lsCalc); }};
         CalcPending();
     }
+    if (GetFreshCrossings())
+        CheckIntersetions();
     if (const auto fault = std::exchange(fStepFault, nullptr))
         std::rethrow_exception(fault);
 }

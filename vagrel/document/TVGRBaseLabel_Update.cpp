@@ -7,6 +7,8 @@
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/editor/CrossingsWorker.h>
+#include <vagrel/editor/GroupDrag.h>
 #include <vagrel/editor/TAct.h>
 #include <vagrel/items/lines/TVGRDimStyle.h>
 #include <vagrel/merge/TVGRCounter.h>
@@ -14,55 +16,19 @@
 #include <vagrel/symbols/TVGRBaseLibSymbol.h>
 
 #include <algorithm>
-#include <array>
 
 namespace vagrel {
 
-namespace {
-
-using TDests = TKSLSet<TKSDestUpdate>;
-
-constexpr TDests Editor{duEditor};
-constexpr TDests Inspector{duInspector};
-constexpr TDests EditorPreview{duEditor, duPreview};
-constexpr TDests EditorInspector{duEditor, duInspector};
-
-// Who is told of a change.
-constexpr std::array<TDests, chSelSymbol + 1> Audience = [] {
-    std::array<TDests, chSelSymbol + 1> table{};
-    for (TKSChange change :
-         {chLabelDef, chBackSurf, chAligns, chUnits, chClearSelect, chCursor, chSelCur, chPickSel, chSelSymbol})
-        table[change] = Editor;
-    for (TKSChange change : {chMeasure, chPaint, chDraw})
-        table[change] = EditorPreview;
-    for (TKSChange change : {chPropItem, chSelect, chScrollSelect, chText, chChText})
-        table[change] = EditorInspector;
-    for (TKSChange change : {chInspect, chEditInspect, chInspectPoint})
-        table[change] = Inspector;
-    return table;
-}();
-static_assert(Audience[chEndInspect].Empty());
-
-} // namespace
-
 void TVGRBaseLabel::Attach(IKSObserver* observer) {
-    if (!observer || std::ranges::find(fObservers, observer, &TAttached::observer) != fObservers.end())
+    if (!observer || !fObservers.Attach(*observer))
         return;
-    auto* component = dynamic_cast<TComponent*>(observer);
-    const TKSDestUpdate dest = observer->GetDest();
-    fObservers.push_back({observer, component, dest});
-    if (component)
+    if (auto* component = dynamic_cast<TComponent*>(observer))
         FreeNotification(*component);
-    if (dest == duEditor) {
-        fConEditors = true;
+    if (observer->GetDest() == duEditor)
         observer->Update(chLabelDef, GetChangedValue(chLabelDef));
-    }
 }
 
-void TVGRBaseLabel::Detach(IKSObserver* observer) {
-    std::erase_if(fObservers, [&](const TAttached& attached) { return attached.observer == observer; });
-    fConEditors = std::ranges::any_of(fObservers, [](const TAttached& attached) { return attached.dest == duEditor; });
-}
+void TVGRBaseLabel::Detach(IKSObserver* observer) { fObservers.Detach(observer); }
 
 TKSChangeValue TVGRBaseLabel::GetChangedValue(TKSChange change) const {
     TKSChangeValue value;
@@ -102,18 +68,10 @@ void TVGRBaseLabel::ChangeValue(TKSChange change) {
         AddState(lsUpdateMeasure);
         return;
     }
-    TDests told = Audience[std::size_t(change)];
     const bool dragging = TAct::GetAction() == eaMove && TAct::GetMoveType() == mtObjects && fSelection.size() > 1;
-    if ((change == chPropItem && dragging) || (change == chScrollSelect && fEditorMode == emInteractive))
-        told.Put(duInspector, false);
-    const TKSChange delivered = change == chChText ? chText : change;
-    const TKSChangeValue value = GetChangedValue(change);
-    // An observer may attach and detach observers; those that are gone are not called any more.
-    const std::vector<TAttached> observers = fObservers;
-    for (const TAttached& attached : observers)
-        if (std::ranges::find(fObservers, attached.observer, &TAttached::observer) != fObservers.end() &&
-            told.Has(attached.observer->GetDest()))
-            attached.observer->Update(delivered, value);
+    const bool tellInspectors =
+        !(change == chPropItem && dragging) && !(change == chScrollSelect && fEditorMode == emInteractive);
+    fObservers.Tell(change, GetChangedValue(change), tellInspectors);
 }
 
 void TVGRBaseLabel::ChangeState(TVagrelState state, TVGRBaseItem& item) {
@@ -148,7 +106,7 @@ void TVGRBaseLabel::FireInfoEvent(bool checkEditors) {
     constexpr TKSLSet<TKSLMoveType> vertexMoves{mtBezier, mtBezierCtrl, mtPolyPoint};
     if (TAct::GetAction() == eaMove && vertexMoves.Has(TAct::GetMoveType()))
         ChangeValue(chInspectPoint);
-    if (OnInfoMsg && (!checkEditors || fConEditors))
+    if (OnInfoMsg && (!checkEditors || fObservers.HasEditors()))
         OnInfoMsg(*this, fInfo.aAction, fInfo.sState);
 }
 
@@ -314,7 +272,7 @@ void TVGRBaseLabel::Clear(TKSLClearSet what, bool paint) {
         fCurrentLibSym = nullptr;
     }
     if (holds(cleItems)) {
-        EmptyIntersect();
+        fCrossings->Clear();
         fMaxID = 1;
         fCalcs.clear();
         FreeItems(fItems);
@@ -379,7 +337,7 @@ void TVGRBaseLabel::AddToSelection(TVGRBaseItem& item, bool notify) {
 }
 
 void TVGRBaseLabel::ClearSelection(bool notify) {
-    ResetMultiDragState();
+    fGroupDrag->Reset();
     {
         const TFinally cleared{[this] { ClearSelectionLists(); }};
         TellUnselected();

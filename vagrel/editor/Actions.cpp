@@ -2,13 +2,14 @@
 // The choice of a tool, and leaving it.
 #include <vagrel/document/TVGRBaseLabel.h>
 
+#include <vagrel/editor/GroupDrag.h>
 #include <vagrel/editor/TAct.h>
 
 namespace vagrel {
 
 void TVGRBaseLabel::SetAction(TKSLEdAction action) {
     if (action != eaMove && action != eaMoveText)
-        ResetMultiDragState();
+        fGroupDrag->Reset();
     if (action == eaEdText && !GetTextObject()) {
         fInfo = TAct::Reset();
         FireInfoEvent(true);

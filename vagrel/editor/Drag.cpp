@@ -5,6 +5,7 @@
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRCmd.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/editor/GroupDrag.h>
 #include <vagrel/editor/TAct.h>
 #include <vagrel/foundation/Arranging.h>
 #include <vagrel/foundation/Rounding.h>
@@ -86,14 +87,9 @@ bool TVGRBaseLabel::MoveBasePoint(std::int64_t bx, std::int64_t by, std::int64_t
 
 // The host's events
 
-void TVGRBaseLabel::ResetMultiDragState() {
-    fMultiDragLastX = fMultiDragLastY = 0;
-    fMultiDragHasLast = false;
-}
-
 void TVGRBaseLabel::MoveEditor(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY, bool refLines,
                                bool fromKeyboard) {
-    if (bx == 0 && by == 0)
+    if (!GetEditable() || (bx == 0 && by == 0))
         return;
     bool moved;
     if (!fromKeyboard)
@@ -118,7 +114,7 @@ bool TVGRBaseLabel::Drag(std::int64_t bx, std::int64_t by, std::int64_t grX, std
     case mtObjects:
     case mtText:
         if (fSelection.size() > 1)
-            ResetMultiDragState();
+            fGroupDrag->Reset();
         else if (grid)
             return MoveBaseGridSelection(grX, grY, dx, dy, refLines, true);
         return MoveBaseSelection(dx, dy, refLines, true);
@@ -194,13 +190,12 @@ bool TVGRBaseLabel::DragRadius(TKSLPto pointer) {
 
 bool TVGRBaseLabel::MoveGridEditor(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY,
                                    bool refLines) {
+    if (!GetEditable())
+        return false;
     const std::int64_t gx = AdjustGrid(bx, grX), gy = AdjustGrid(by, grY);
     if (fSelection.size() > 1 && TAct::GetAction() == eaMove && TAct::GetMoveType() == mtObjects) {
-        const bool grabbed = fMultiDragHasLast;
-        const std::int64_t dx = SubSat(gx, fMultiDragLastX), dy = SubSat(gy, fMultiDragLastY);
-        fMultiDragLastX = gx, fMultiDragLastY = gy;
-        fMultiDragHasLast = true;
-        const bool moved = grabbed && MoveBaseSelection(dx, dy, refLines, true);
+        const auto step = fGroupDrag->Step({gx, gy});
+        const bool moved = step && MoveBaseSelection(step->bX, step->bY, refLines, true);
         if (moved)
             ChangeValue(chPropItem);
         return moved;

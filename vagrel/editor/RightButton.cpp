@@ -10,11 +10,13 @@ namespace vagrel {
 void TVGRBaseLabel::RightButton(std::int64_t bx, std::int64_t by, std::int64_t gap, TShiftState shift) {
     constexpr TKSLEdActions chains{eaPolyline, eaPolygon, eaBezier}, cutting{eaTrim, eaExtend};
     const TKSLEdAction action = TAct::GetAction();
-    if (chains.Has(action) && TAct::GetState() == edPickNext)
+    if (chains.Has(action) && TAct::GetState() == edPickNext && GetEditable())
         Construct(shift, false);
+    else if (chains.Has(action) && TAct::GetState() == edPickNext)
+        fInfo = TAct::Reset();
     else if (cutting.Has(action))
         EndReferences();
-    else if (chains.Has(action) || !InsertVertex(bx, by, gap))
+    else if (chains.Has(action) || !GetEditable() || !InsertVertex(bx, by, gap))
         LastAction();
     ChangeValue(chCursor);
     FireInfoEvent(true);

@@ -2,9 +2,9 @@
 // Points that the pointer snaps to, and guides of the selection.
 #include <vagrel/document/TVGRBaseLabel.h>
 
+#include <vagrel/editor/CrossingsWorker.h>
+#include <vagrel/editor/Guides.h>
 #include <vagrel/editor/ItemWalk_p.h>
-#include <vagrel/editor/RefLines.h>
-#include <vagrel/editor/TIntersectThread.h>
 
 namespace vagrel {
 
@@ -14,7 +14,7 @@ bool TVGRBaseLabel::SearchPoint(std::int64_t ax, std::int64_t ay, std::int64_t g
         return TopItem([&](const TVGRBaseItem& item) {
             return !(excludeSelected && item.GetState() == isSelected) && item.CheckPoint(ax, ay, gap, snap, ref);
         });
-    const auto crossing = fIntersect->FindLast({ax, ay}, gap, [&](const TIntSecPoint& found) {
+    const auto crossing = fCrossings->Published().FindLast({ax, ay}, gap, [&](const TIntSecPoint& found) {
         return !excludeSelected || (!IsInSelection(found.fID1) && !IsInSelection(found.fID2));
     });
     if (!crossing)
@@ -24,26 +24,20 @@ bool TVGRBaseLabel::SearchPoint(std::int64_t ax, std::int64_t ay, std::int64_t g
     return true;
 }
 
-void TVGRBaseLabel::ResetRefLines() {
-    fRefLines = {};
-    fNumRefLines = 0;
-}
-
-TKSLRefLine TVGRBaseLabel::GetRefLine(int index) const {
-    return index >= 1 && index <= fNumRefLines ? fRefLines[std::size_t(index - 1)] : TKSLRefLine();
-}
+void TVGRBaseLabel::ResetRefLines() { fGuides->Reset(); }
+int TVGRBaseLabel::NumRefLines() const { return fGuides->Count(); }
+TKSLRefLine TVGRBaseLabel::GetRefLine(int index) const { return fGuides->Get(index); }
 
 void TVGRBaseLabel::FillRefLines() {
     ResetRefLines();
     if (fSelection.size() != 1)
         return;
     const TVGRBaseItem& own = *fSelection[0];
-    RefLines guides{fRefLines, fNumRefLines};
     for (int i = 1; i <= own.GetNumRefPoints(); ++i)
         for (const auto& other : fItems)
             if (other.get() != &own && other->Shows({lopVisible}))
-                for (int k = 1; k <= other->GetNumRefPoints() && !guides.IsFull(); ++k)
-                    guides.Align(own.GetRefPoint(i), other->GetRefPoint(k));
+                for (int k = 1; k <= other->GetNumRefPoints() && !fGuides->IsFull(); ++k)
+                    fGuides->Align(own.GetRefPoint(i), other->GetRefPoint(k));
 }
 
 } // namespace vagrel

@@ -4,6 +4,7 @@
 
 #include <vagrel/platform/MainThreadQueue.h>
 
+#include <condition_variable>
 #include <new>
 #include <utility>
 
@@ -58,9 +59,11 @@ void TIntersections::DropRemoved() {
 struct TIntersectThread::TRun {
     std::shared_ptr<TIntersections> target;
     std::vector<TFigure> figures;
-    std::function<void()> finished; ///< called and emptied on the main thread alone
     std::atomic<bool> terminated = false;
-    std::atomic<bool> ended = false;
+    std::mutex lock;
+    std::condition_variable changed;
+    std::function<void()> finished; ///< under the lock; empty when nobody waits for it any more
+    bool ended = false;             ///< under the lock
 
     void Execute() {
         try {
@@ -70,7 +73,10 @@ struct TIntersectThread::TRun {
         } catch (const std::bad_alloc&) {
             // More crossings than memory: those that were published before stay.
         }
-        ended = true;
+    }
+    std::function<void()> TakeFinished() {
+        const std::scoped_lock guard(lock);
+        return std::exchange(finished, nullptr);
     }
 };
 
@@ -84,20 +90,34 @@ TIntersectThread::TIntersectThread(std::shared_ptr<TIntersections> target, std::
     fThread = std::thread([run = fRun] {
         run->Execute();
         MainThread().Post([run] {
-            if (const auto tell = std::exchange(run->finished, nullptr))
+            if (const auto tell = run->TakeFinished())
                 tell();
         });
+        {
+            const std::scoped_lock guard(run->lock);
+            run->ended = true;
+        }
+        run->changed.notify_all();
     });
 }
 
 TIntersectThread::~TIntersectThread() {
-    fRun->finished = nullptr;
+    fRun->TakeFinished();
     Terminate();
     fThread.detach();
 }
 
-bool TIntersectThread::IsRunning() const { return !fRun->terminated && !fRun->ended; }
+bool TIntersectThread::IsRunning() const {
+    const std::scoped_lock guard(fRun->lock);
+    return !fRun->terminated && !fRun->ended;
+}
 
 void TIntersectThread::Terminate() { fRun->terminated = true; }
+
+void TIntersectThread::TerminateAndWait(std::chrono::milliseconds atMost) {
+    Terminate();
+    std::unique_lock guard(fRun->lock);
+    fRun->changed.wait_for(guard, atMost, [this] { return fRun->ended; });
+}
 
 } // namespace vagrel

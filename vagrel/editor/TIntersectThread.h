@@ -6,6 +6,7 @@
 #include <vagrel/foundation/Snapping.h>
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -66,6 +67,8 @@ public:
     bool IsRunning() const;
     /// Asks it to end: nothing will be published.
     void Terminate();
+    /// The same, and waits until nothing of it runs any more, so long at most.
+    void TerminateAndWait(std::chrono::milliseconds atMost);
 
 private:
     struct TRun;

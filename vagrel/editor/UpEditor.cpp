@@ -3,6 +3,7 @@
 #include <vagrel/document/TVGRBaseLabel.h>
 
 #include <vagrel/document/TVGRBaseItem.h>
+#include <vagrel/editor/GroupDrag.h>
 #include <vagrel/editor/TAct.h>
 
 #include <algorithm>
@@ -67,7 +68,7 @@ void TVGRBaseLabel::EndRectangle(std::int64_t bx, std::int64_t by) {
 }
 
 void TVGRBaseLabel::EndDrag() {
-    ResetMultiDragState();
+    fGroupDrag->Reset();
     const auto end =
         std::ranges::find_if(DragEnds, [](const TDragEnd& each) { return each.types.Has(TAct::GetMoveType()); });
     if (end == std::end(DragEnds))

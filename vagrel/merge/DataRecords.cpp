@@ -8,8 +8,8 @@
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/merge/IKSLDataset.h>
+#include <vagrel/merge/MergeSources.h>
 #include <vagrel/merge/TCsvReader.h>
-#include <vagrel/merge/TVGRData.h>
 #include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 
@@ -80,7 +80,7 @@ private:
 // The columns are those of the selected source, which may differ from the file's first line.
 class TCsvRecords final : public TDataRecords {
 public:
-    explicit TCsvRecords(const TVGRData& data)
+    explicit TCsvRecords(const MergeSources& data)
         : fData(data), fReader(data.ReadCsv()), fHeaderLines(data.GetCsvHeader() ? 1 : 0) {}
 
     std::int32_t Count() const override { return std::max(fReader.Count() - fHeaderLines, 0); }
@@ -110,7 +110,7 @@ private:
         return std::size_t(column) < fCells.size() ? fCells[std::size_t(column)] : std::u16string_view();
     }
 
-    const TVGRData& fData;
+    const MergeSources& fData;
     TCsvReader fReader;
     TCsvReader::TCells fCells;
     std::int32_t fHeaderLines;
@@ -122,7 +122,7 @@ std::unique_ptr<TDataRecords> OpenDataset(IKSLDataset& dataset) { return std::ma
 std::unique_ptr<TDataRecords> OpenJson(std::u16string_view text, std::u16string_view name) {
     return std::make_unique<TJsonRecords>(text, name);
 }
-std::unique_ptr<TDataRecords> OpenCsv(const TVGRData& data) { return std::make_unique<TCsvRecords>(data); }
+std::unique_ptr<TDataRecords> OpenCsv(const MergeSources& data) { return std::make_unique<TCsvRecords>(data); }
 
 std::u16string DatasetText(const IKSLDataset& dataset, std::u16string_view name, std::u16string_view format) {
     const int field = dataset.FindField(name);

@@ -14,7 +14,7 @@ class IKSLDataset;
 class TJsonArray;
 class TJsonDataValue;
 class TJsonObject;
-class TVGRData;
+class MergeSources;
 
 namespace detail {
 
@@ -39,7 +39,7 @@ std::unique_ptr<TDataRecords> OpenDataset(IKSLDataset& dataset);
 /// The records of the array under a name; none without such an array. Throws what the parser throws.
 std::unique_ptr<TDataRecords> OpenJson(std::u16string_view text, std::u16string_view name);
 /// Throws EVagrel for a file that is missing or ends inside a quote.
-std::unique_ptr<TDataRecords> OpenCsv(const TVGRData& data);
+std::unique_ptr<TDataRecords> OpenCsv(const MergeSources& data);
 
 /// A field of the dataset's current record as text; `format` counts for numbers and dates.
 std::u16string DatasetText(const IKSLDataset& dataset, std::u16string_view name, std::u16string_view format);

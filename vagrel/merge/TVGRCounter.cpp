@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Ranges, values and JSON form of counters.
+// Ranges, values and stored forms of counters.
 #include <vagrel/merge/TVGRCounter.h>
 
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/foundation/Numbers.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Text.h>
+#include <vagrel/persistence/TBinaryWriter.h>
 #include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 
@@ -98,6 +99,27 @@ void TVGRCounter::ReadJson(std::int32_t, TJsonObject& json) {
     fFormat = json.GetString(u"Format");
     fBefore = json.GetString(u"Before");
     fAfter = json.GetString(u"After");
+}
+
+void TVGRCounter::WriteData(TBinaryWriter& writer) const {
+    writer.Write(fName);
+    writer.Write(fNumFrom);
+    writer.Write(fNumTo);
+    writer.Write(fStep);
+    writer.Write(fRepeat);
+    for (const std::u16string* text : {&fFormat, &fBefore, &fAfter})
+        writer.Write(*text);
+}
+
+void TVGRCounter::ReadData(std::int32_t, TBinaryReader& reader) {
+    fName = reader.ReadString();
+    // Within their limits: step and repeat divide, and a range that is turned round has no values.
+    SetNumFrom(reader.Read<std::int64_t>());
+    SetNumTo(reader.Read<std::int64_t>());
+    SetStep(reader.Read<std::int32_t>());
+    SetRepeat(reader.Read<std::int16_t>());
+    for (std::u16string* text : {&fFormat, &fBefore, &fAfter})
+        *text = reader.ReadString();
 }
 
 } // namespace vagrel

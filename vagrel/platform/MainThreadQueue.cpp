@@ -26,6 +26,11 @@ void MainThreadQueue::Bind() {
     fMain = std::this_thread::get_id();
 }
 
+bool MainThreadQueue::CanPump() const {
+    const std::scoped_lock guard(fLock);
+    return IsFree();
+}
+
 void MainThreadQueue::SetWakeUp(TWork wakeUp) {
     const std::scoped_lock guard(fLock);
     fWakeUp = std::move(wakeUp);
@@ -95,8 +100,18 @@ std::size_t MainThreadQueue::Pump() {
     std::size_t count;
     {
         const std::scoped_lock guard(fLock);
+        if (!IsFree())
+            return 0;
+        fPumping = true;
         count = fWaiting.size();
     }
+    struct TEnd {
+        MainThreadQueue& queue;
+        ~TEnd() {
+            const std::scoped_lock guard(queue.fLock);
+            queue.fPumping = false;
+        }
+    } const end{*this};
     for (std::size_t done = 0; done < count; ++done)
         if (!RunNext())
             return done;
@@ -106,6 +121,8 @@ std::size_t MainThreadQueue::Pump() {
 std::size_t MainThreadQueue::WaitAndPump(std::chrono::milliseconds atMost) {
     {
         std::unique_lock guard(fLock);
+        if (!IsFree())
+            return 0;
         fChanged.wait_for(guard, atMost, [this] { return !fWaiting.empty(); });
     }
     return Pump();

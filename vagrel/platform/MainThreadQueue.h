@@ -22,6 +22,8 @@ public:
 
     bool IsMainThread() const;
     void Bind();
+    /// False while the main thread pumps, and on every other thread: `Pump` would do nothing.
+    bool CanPump() const;
     /// Called on the posting thread after each post.
     void SetWakeUp(TWork wakeUp);
 
@@ -31,10 +33,11 @@ public:
     /// once. Throws EInvalidOperation when the queue is closed, also while it waits for work that was not begun.
     void Synchronize(const TWork& work);
 
-    /// Does what waits at the moment and answers how much that was. Main thread. An exception of posted work comes out;
-    /// what stands behind it waits for the next call.
+    /// Does what waits at the moment and answers how much that was. An exception of posted work comes out; what stands
+    /// behind it waits for the next call. Only the event loop of the main thread pumps: inside of posted work and on
+    /// any other thread nothing happens and the answer is 0.
     std::size_t Pump();
-    /// The same after waiting for work, so long at most.
+    /// The same after waiting for work, so long at most; where `Pump` would do nothing it does not wait.
     std::size_t WaitAndPump(std::chrono::milliseconds atMost);
 
     /// Drops what waits and refuses new work.
@@ -49,6 +52,7 @@ private:
     };
 
     void Append(TEntry entry);
+    bool IsFree() const { return !fPumping && std::this_thread::get_id() == fMain; }
     bool RunNext();
 
     mutable std::mutex fLock;
@@ -56,10 +60,12 @@ private:
     std::deque<TEntry> fWaiting;
     std::thread::id fMain = std::this_thread::get_id();
     TWork fWakeUp;
+    bool fPumping = false;
     bool fClosed = false;
 };
 
-/// The queue of the process. Every document touches it when it is constructed, on the main thread.
+/// The queue of the process. It belongs to the thread that asks for it first, which a document does when it is
+/// constructed; a host that begins elsewhere calls `Bind` on its main thread.
 MainThreadQueue& MainThread();
 
 } // namespace vagrel

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // One rule for both directions of a guide.
-#include <vagrel/editor/RefLines.h>
+#include <vagrel/editor/Guides.h>
 
 #include <vagrel/foundation/Rounding.h>
 
@@ -15,12 +15,16 @@ TInt128 Span(std::int64_t from, std::int64_t to) {
 
 } // namespace
 
-void RefLines::Align(TKSLPto a, TKSLPto b) {
+TKSLRefLine Guides::Get(int index) const {
+    return index >= 1 && index <= fNumRefLines ? fRefLines[std::size_t(index - 1)] : TKSLRefLine();
+}
+
+void Guides::Align(TKSLPto a, TKSLPto b) {
     const bool vertical = a.bX == b.bX;
     if (IsFull() || (!vertical && a.bY != b.bY))
         return;
-    for (int i = 0; i < count; ++i) {
-        TKSLRefLine& line = lines[std::size_t(i)];
+    for (int i = 0; i < fNumRefLines; ++i) {
+        TKSLRefLine& line = fRefLines[std::size_t(i)];
         if (vertical ? line.bX2 != b.bX : line.bY2 != b.bY)
             continue;
         if (vertical ? Span(line.bY1, line.bY2) > Span(line.bY1, b.bY)
@@ -29,7 +33,7 @@ void RefLines::Align(TKSLPto a, TKSLPto b) {
             break;
         }
     }
-    lines[std::size_t(count++)] = {a.bX, a.bY, b.bX, b.bY};
+    fRefLines[std::size_t(fNumRefLines++)] = {a.bX, a.bY, b.bX, b.bY};
 }
 
 } // namespace vagrel

@@ -1,32 +1,41 @@
 // SPDX-License-Identifier: MIT
 // The walk over the records of the selected source, and the values of the current one.
-#include <vagrel/merge/TVGRData.h>
+#include <vagrel/merge/MergeCursor.h>
 
 #include <vagrel/document/TVGRBasePrintInfo.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/merge/DataRecords_p.h>
 #include <vagrel/merge/IKSLDataset.h>
+#include <vagrel/merge/MergeSources.h>
 #include <vagrel/merge/Merge_p.h>
 
 #include <algorithm>
 
 namespace vagrel {
 
+MergeCursor::MergeCursor(TVGRBaseLabel& owner, MergeSources& sources) : fOwner(owner), fSources(sources) {}
+MergeCursor::~MergeCursor() = default;
+
+void MergeCursor::CloseRecords() {
+    fRecords.reset();
+    fHasData = false;
+}
+
 // False where the selected source does not exist.
-bool TVGRData::OpenRecords() {
-    const TVGRDatasetItem* source = SelectedSource();
-    switch (fType) {
+bool MergeCursor::OpenRecords() {
+    const TVGRDatasetItem* source = fSources.SelectedSource();
+    switch (fSources.GetType()) {
     case dtyDataset:
-        if (IKSLDataset* dataset = CurrentDataset())
+        if (IKSLDataset* dataset = fSources.CurrentDataset())
             fRecords = detail::OpenDataset(*dataset);
         break;
     case dtyJson:
         // Captions count without regard to case, keys exactly.
-        fRecords = detail::OpenJson(fJson, source ? source->fCaption : fDataSel);
+        fRecords = detail::OpenJson(fSources.GetJson(), source ? source->fCaption : fSources.GetDataSel());
         break;
     case dtyCsv:
         fValidCsv = false;
-        fRecords = detail::OpenCsv(*this);
+        fRecords = detail::OpenCsv(fSources);
         fValidCsv = true;
         break;
     default:
@@ -36,23 +45,23 @@ bool TVGRData::OpenRecords() {
 }
 
 // The record at the cursor.
-void TVGRData::Load() {
+void MergeCursor::Load() {
     const std::int32_t record = fPos - fRecords->HeaderLines();
     if (record <= fRecords->Count())
         fRecords->MoveTo(record);
 }
 
 // Copies of the current record. A negative count gives none.
-std::int32_t TVGRData::Repeat() const {
-    if (!fFieldRepeat.empty() && RecordCount() > 0)
-        if (const auto repeat = fRecords->Repeat(fFieldRepeat))
+std::int32_t MergeCursor::Repeat() const {
+    if (!fSources.GetFieldRepeat().empty() && RecordCount() > 0)
+        if (const auto repeat = fRecords->Repeat(fSources.GetFieldRepeat()))
             return std::max(*repeat, 0);
     return fOwner.GetPrintInfo().GetRepetition();
 }
 
-std::int32_t TVGRData::CountLabels() {
+std::int32_t MergeCursor::CountLabels() {
     const std::int32_t count = fRecords->Count();
-    if (fFieldRepeat.empty())
+    if (fSources.GetFieldRepeat().empty())
         return ToInt32(std::int64_t(count) * fOwner.GetPrintInfo().GetRepetition());
     const detail::TStillControls still(fRecords->Dataset());
     std::int64_t labels = 0;
@@ -63,30 +72,30 @@ std::int32_t TVGRData::CountLabels() {
     return ToInt32(labels);
 }
 
-void TVGRData::Reset() {
-    Close();
+void MergeCursor::Reset() {
+    CloseRecords();
     fPos = fPosRepeat = fRecordRepeat = 1;
     fNumlabels = 0;
     fHasData = true;
-    if (!fLinkData || fType == dtyNone) {
+    if (!fSources.GetLinkData() || fSources.GetType() == dtyNone) {
         fNumlabels = fOwner.GetPrintInfo().GetNumLabs();
         return;
     }
-    if (fType == dtyCustom)
+    if (fSources.GetType() == dtyCustom)
         return;
     fHasData = false;
     if (!OpenRecords())
         return;
     fNumlabels = CountLabels();
-    fHasData = fType == dtyCsv ? fNumlabels > 0 : fRecords->Count() > 0;
+    fHasData = fSources.GetType() == dtyCsv ? fNumlabels > 0 : fRecords->Count() > 0;
     fPos = 1 + fRecords->HeaderLines();
     Load();
     fRecordRepeat = Repeat();
 }
 
-void TVGRData::First() {
+void MergeCursor::First() {
     fPos = fPosRepeat = fRecordRepeat = 1;
-    if (fLinkData) {
+    if (fSources.GetLinkData()) {
         if (fRecords) {
             fPos = 1 + fRecords->HeaderLines();
             Load();
@@ -97,8 +106,8 @@ void TVGRData::First() {
         detail::ForActiveCounters(fOwner, [](TVGRCounter& counter) { counter.Reset(); });
 }
 
-void TVGRData::Next() {
-    if (!fLinkData || !fRecords)
+void MergeCursor::Next() {
+    if (!fSources.GetLinkData() || !fRecords)
         return;
     if (fPosRepeat < fRecordRepeat) {
         ++fPosRepeat;
@@ -112,40 +121,22 @@ void TVGRData::Next() {
     fPosRepeat = 1;
 }
 
-std::int32_t TVGRData::RecordCount() const { return fRecords ? fRecords->Count() : 0; }
+std::int32_t MergeCursor::RecordCount() const { return fRecords ? fRecords->Count() : 0; }
 
-void TVGRData::SetPos(std::int32_t record) {
-    if (!fLinkData || record < 1 || record > RecordCount())
+void MergeCursor::SetPos(std::int32_t record) {
+    if (!fSources.GetLinkData() || record < 1 || record > RecordCount())
         return;
     fPos = record + fRecords->HeaderLines();
     fPosRepeat = 1;
     Load();
 }
 
-bool TVGRData::IsValidData(TKSLFillType fill, std::u16string_view name) const {
-    switch (fill) {
-    case ftField:
-    case ftJson:
-    case ftCsv:
-    case ftImg64:
-        return fHasData;
-    case ftCounter:
-        return detail::RunsOnCounters(fOwner.GetPrintInfo().GetFillType());
-    case ftAsk:
-        return NameAskExists(name);
-    case ftList:
-        return NameListExists(name);
-    default:
-        return false;
-    }
+std::u16string MergeCursor::DataValue(std::u16string_view name, std::u16string_view format) const {
+    return fSources.GetLinkData() && fRecords ? fRecords->Value(name, format) : std::u16string(name);
 }
 
-std::u16string TVGRData::DataValue(std::u16string_view name, std::u16string_view format) const {
-    return fLinkData && fRecords ? fRecords->Value(name, format) : std::u16string(name);
-}
-
-bool TVGRData::DataGraphic(std::u16string_view name, std::string& stream) const {
-    const IKSLDataset* dataset = fLinkData && fRecords ? fRecords->Dataset() : nullptr;
+bool MergeCursor::DataGraphic(std::u16string_view name, std::string& stream) const {
+    const IKSLDataset* dataset = fSources.GetLinkData() && fRecords ? fRecords->Dataset() : nullptr;
     const int field = dataset ? dataset->FindField(name) : -1;
     if (field < 0 || dataset->FieldKind(field) != fkBlob)
         return false;

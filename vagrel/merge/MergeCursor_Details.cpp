@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Lists inside the current record: their rows, and calculations over them.
-#include <vagrel/merge/TVGRData.h>
+#include <vagrel/merge/MergeCursor.h>
 
 #include <vagrel/foundation/Numbers.h>
 #include <vagrel/merge/DataRecords_p.h>
 #include <vagrel/merge/IKSLDataset.h>
+#include <vagrel/merge/MergeSources.h>
 #include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 
@@ -68,13 +69,13 @@ bool IsDataset(const TVGRDetailItem& detail) { return detail.fType == dtyDataset
 
 } // namespace
 
-TJsonArray* TVGRData::Rows(const TVGRDetailItem& detail) const {
-    TJsonObject* master = fLinkData && RecordCount() > 0 ? fRecords->Json() : nullptr;
+TJsonArray* MergeCursor::Rows(const TVGRDetailItem& detail) const {
+    TJsonObject* master = fSources.GetLinkData() && RecordCount() > 0 ? fRecords->Json() : nullptr;
     return master ? master->FindArray(detail.fCaption) : nullptr;
 }
 
-std::int32_t TVGRData::FirstDetail(std::u16string_view detail) {
-    TVGRDetailItem* found = GetDetail(detail);
+std::int32_t MergeCursor::FirstDetail(std::u16string_view detail) {
+    TVGRDetailItem* found = fSources.GetDetail(detail);
     if (!found)
         return 0;
     if (IsDataset(*found)) {
@@ -86,8 +87,8 @@ std::int32_t TVGRData::FirstDetail(std::u16string_view detail) {
     return rows ? rows->Count() : 0;
 }
 
-void TVGRData::NextDetail(std::u16string_view detail) {
-    TVGRDetailItem* found = GetDetail(detail);
+void MergeCursor::NextDetail(std::u16string_view detail) {
+    TVGRDetailItem* found = fSources.GetDetail(detail);
     if (!found)
         return;
     if (IsDataset(*found)) {
@@ -98,11 +99,11 @@ void TVGRData::NextDetail(std::u16string_view detail) {
     }
 }
 
-std::u16string TVGRData::DataDetailValue(std::u16string_view detail, std::u16string_view name,
-                                         std::u16string_view format) const {
-    if (!fLinkData || fType == dtyNone || fType == dtyCustom)
+std::u16string MergeCursor::DataDetailValue(std::u16string_view detail, std::u16string_view name,
+                                            std::u16string_view format) const {
+    if (!fSources.GetLinkData() || fSources.GetType() == dtyNone || fSources.GetType() == dtyCustom)
         return std::u16string(name);
-    const TVGRDetailItem* found = GetDetail(detail);
+    const TVGRDetailItem* found = fSources.GetDetail(detail);
     if (!found)
         return {};
     if (found->fType == dtyNone)
@@ -113,7 +114,7 @@ std::u16string TVGRData::DataDetailValue(std::u16string_view detail, std::u16str
     return rows ? detail::JsonText(detail::JsonRecord(*rows, found->fPos), name, format) : std::u16string();
 }
 
-std::vector<double> TVGRData::DetailNumbers(const TVGRDetailItem& detail, std::u16string_view name) const {
+std::vector<double> MergeCursor::DetailNumbers(const TVGRDetailItem& detail, std::u16string_view name) const {
     std::vector<double> numbers;
     if (IsDataset(detail)) {
         IKSLDataset& rows = *detail.fDataset;
@@ -129,11 +130,11 @@ std::vector<double> TVGRData::DetailNumbers(const TVGRDetailItem& detail, std::u
     return numbers;
 }
 
-std::u16string TVGRData::GetDetailCalc(std::u16string_view detail, std::u16string_view name, std::u16string_view format,
-                                       TKSLFooter calculation) const {
-    if (!fLinkData)
+std::u16string MergeCursor::GetDetailCalc(std::u16string_view detail, std::u16string_view name,
+                                          std::u16string_view format, TKSLFooter calculation) const {
+    if (!fSources.GetLinkData())
         return std::u16string(name);
-    const TVGRDetailItem* found = GetDetail(detail);
+    const TVGRDetailItem* found = fSources.GetDetail(detail);
     if (!found)
         return {};
     if (found->fType == dtyNone)
