@@ -21,7 +21,6 @@
 #include <vagrel/merge/TVGRData.h>
 #include <vagrel/messages/TVGRMsg.h>
 #include <vagrel/platform/Files.h>
-#include <vagrel/platform/MainThreadQueue.h>
 #include <vagrel/symbols/TVGRBaseLibSymbol.h>
 
 #include <algorithm>
@@ -41,7 +40,6 @@ TVGRBaseLabel::TVGRBaseLabel(TComponent* owner)
       fPrintInfo(std::make_unique<TVGRBasePrintInfo>(*this)), fData(std::make_unique<TVGRData>(*this)),
       fMeasure(std::make_unique<TVGRMeasure>(*this)), fMapping(std::make_unique<TVGRMapping>(*this)),
       fBackSurf(std::make_unique<TVGRBackSurf>(*this, true)), fSettings(std::make_unique<TVGRSettings>(*this)) {
-    MainThread(); // it belongs to the thread that comes first
     AddBaseLayer();
     AddBaseStyle();
 }

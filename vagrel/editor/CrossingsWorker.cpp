@@ -9,7 +9,9 @@
 
 namespace vagrel {
 
-CrossingsWorker::CrossingsWorker(std::function<std::vector<TFigure>()> figures) : fFigures(std::move(figures)) {}
+CrossingsWorker::CrossingsWorker(std::function<std::vector<TFigure>()> figures) : fFigures(std::move(figures)) {
+    MainThread(); // it belongs to the thread that comes first
+}
 
 void CrossingsWorker::Request() {
     if (!MainThread().IsMainThread())
