@@ -36,7 +36,7 @@ std::int64_t LabelLength(TKSLAlignType axis, const TVGRBaseLabel& label) {
 }
 
 // The capability of an item whose size can be made that of another.
-IKSLSize* SizeOf(TVGRBaseItem& item) { return item.GetItemType() == itBezier ? nullptr : Query<IKSLSize>(&item); }
+IKSLSize* SizeOf(TVGRBaseItem& item) { return item.HasTrait(trCurve) ? nullptr : Query<IKSLSize>(&item); }
 
 } // namespace
 
@@ -119,7 +119,6 @@ void TVGRBaseLabel::SpaceSelection(TKSLAlignType axis, float gap) {
 }
 
 void TVGRBaseLabel::SameSize(TKSLAlignType axis) {
-    constexpr TKSLSet<TKSLItemType> oneSize{itCircle, itLevel, itSector};
     const auto first = std::ranges::find_if(fSelection, [](TVGRBaseItem* item) { return SizeOf(*item) != nullptr; });
     if (first == fSelection.end())
         return;
@@ -135,7 +134,7 @@ void TVGRBaseLabel::SameSize(TKSLAlignType axis) {
             IKSLSize* size = SizeOf(item);
             if (!size || &item == reference)
                 continue;
-            const bool both = oneSize.Has(item.GetItemType());
+            const bool both = item.HasTrait(trOneSize);
             if (wide || both)
                 size->SetBaseWidth(value);
             if (!wide || both)

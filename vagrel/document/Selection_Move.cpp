@@ -15,9 +15,8 @@ void TVGRBaseLabel::CalcLinks() {
 }
 
 void TVGRBaseLabel::Recalculate() {
-    constexpr TKSLSet<TKSLItemType> followers{itArrowLine, itPara, itFlow, itDim, itRichText};
     for (std::size_t i = 0; i < fSelection.size(); ++i)
-        if (followers.Has(fSelection[i]->GetItemType()))
+        if (fSelection[i]->HasTrait(trFollowsMove))
             fSelection[i]->CalcValues(2);
     CalcLinks();
 }

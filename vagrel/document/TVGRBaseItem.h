@@ -5,6 +5,7 @@
 
 #include <vagrel/document/Capabilities.h>
 #include <vagrel/foundation/Crossings.h>
+#include <vagrel/foundation/ItemTypes.h>
 #include <vagrel/svg/TSVGOutput.h>
 
 #include <memory>
@@ -56,6 +57,8 @@ public:
     /// The default identifier: the type's name and the number with at least three digits.
     void SetName();
     TKSLItemType GetItemType() const { return fItemType; }
+    const TItemTypeRow& TypeRow() const { return ItemTypeRow(fItemType); }
+    bool HasTrait(TItemTrait trait) const { return vagrel::HasTrait(fItemType, trait); }
     TKSLItemState GetState() const { return fState; }
     void SetState(TKSLItemState value) { fState = value; }
     bool GetResize() const { return fResize; }

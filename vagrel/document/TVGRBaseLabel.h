@@ -41,6 +41,7 @@ class TVGRMapping;
 class TVGRMeasure;
 class TVGRSettings;
 struct TIntSecPoint;
+enum TItemTrait : std::uint8_t;
 enum TVGRCmdKind : std::int32_t;
 struct TKSLExtent;
 struct TVGRCmd;
@@ -644,7 +645,7 @@ private:
     /// Takes an item out of the selection and tells the host.
     void Unselect(TVGRBaseItem& item);
     /// Tells of a new selection; a single text of the given types that is not bound to data is opened instead.
-    void SelectionPicked(TKSLSet<TKSLItemType> texts);
+    void SelectionPicked(TKSLSet<TItemTrait> texts);
     void ResetMultiDragState();
     /// A step of the drag; false when nothing moved. `DragRadius` and `DragShape` take the pointer's place.
     bool Drag(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY, bool refLines);
