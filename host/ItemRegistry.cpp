@@ -66,7 +66,7 @@ TVGRBaseItem& MakeItem(TVGRBaseLabel& label, TVGRLayer& layer, TKSLItemType type
     const auto row = std::ranges::find(Rows, type, &TRow::type);
     if (row != std::end(Rows))
         return row->make(label, layer, points, preview);
-    if (type <= itUndefined || type > itRichText)
+    if (type == itUndefined || !IsItemType(type))
         throw EVagrel(u"Unknown item type " + IntToStr(type));
     throw ENotAvailable(u"Items of type " + IntToStr(type) + u" (" + std::u16string(NameItem(type)) +
                         u") are not available yet");

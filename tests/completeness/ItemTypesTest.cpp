@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
-// What an item type must have before it counts as there: a name, a class, a factory and a sample in the shared suite.
-// The suites of items and of paintings go through the same list of types, so that a type without a sample, or without
-// its file, SVG and painted forms, fails there.
+// What an item type must have before it counts as there: a name, the rules of the table of types, a tool, a class, a
+// factory and a sample in the shared suite. The suites of items and of paintings go through the same list of types, so
+// that a type without a sample, or without its file, SVG and painted forms, fails there.
+#include <tests/completeness/Sources.h>
 #include <tests/support/ItemSuite.h>
 
 #include <host/ItemRegistry.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/editor/TAct.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <functional>
@@ -77,10 +78,98 @@ std::set<TKSLItemType> Available() {
     return all;
 }
 
+// The enumerators of TKSLItemType, by number.
+std::vector<std::string> TypesInHeader() {
+    const std::string header = ReadSource(std::filesystem::path(VAGREL_SOURCES) / "vagrel/foundation/Enumerations.h");
+    std::vector<std::string> types;
+    ForEachMatch(header, std::regex(R"(enum TKSLItemType : std::int32_t \{([^}]*)\})"), [&](const std::smatch& body) {
+        ForEachMatch(body[1].str(), std::regex(R"(\bit\w+)"),
+                     [&](const std::smatch& type) { types.push_back(type[0]); });
+    });
+    EXPECT_FALSE(types.empty());
+    return types;
+}
+
+// The names of the types that the tools draw, made or refused by the host.
+std::set<std::string> DrawnByTools() {
+    std::set<std::string> names;
+    for (int action = eaSelection; action <= eaDimAng; ++action) {
+        TestHost label;
+        label.CreateCircle(A, 10 * U);
+        label.SetAction(TKSLEdAction(action));
+        for (const TKSLPto pick : {A, B, C})
+            TAct::AddPoint(pick.bX, pick.bY);
+        TAct::SetState(edEnd);
+        try {
+            label.PickEditor(20 * U, 10 * U, 100, {}, false);
+            if (label.ItemsCount() == 1) { // a chain waits for its end
+                TAct::SetState(edPickNext);
+                label.RightButton(0, 0, 100, {});
+            }
+            if (label.ItemsCount() == 2)
+                names.insert(ToUtf8(NameItem(label.GetItem(2)->GetItemType())));
+        } catch (const ENotAvailable& error) {
+            const std::string text = error.what();
+            const std::size_t begin = text.find('(') + 1;
+            names.insert(text.substr(begin, text.find(')') - begin));
+        }
+        TAct::ResetForTests();
+    }
+    return names;
+}
+
+// Whether undo knows more of a type than its stroke. Those that nobody makes yet owe no answer.
+bool HasUndoOfItsOwn(TKSLItemType type) {
+    const TItemSample* sample = SampleOf(type);
+    if (!sample)
+        return true;
+    TestHost label(emDrawing, unCM, 10);
+    label.GetMeasure().SetLabelSizeMM(1000, 800);
+    int recorded = 0;
+    for (const TSetter& set : SettersOf(MakeSample(label, *sample))) {
+        label.Clear({cleUndoRedo}, false);
+        const UpdateScope measuring(label);
+        set();
+        recorded += !label.IsUndoEmpty();
+    }
+    return recorded > 2;
+}
+
+// A type that is new answers each of these in its own row, or stands among those that have none.
+TEST(Completeness, EveryTypeAnswersEveryQuestion) {
+    const std::set<std::string> tools = DrawnByTools();
+    const struct {
+        const char* question;
+        std::function<bool(TKSLItemType)> has;
+        TKSLSet<TKSLItemType> none;
+    } rows[] = {
+        {"handles", [](TKSLItemType type) { return ItemTypeRow(type).handles != hfNone; }, {}},
+        {"an alignment rule",
+         [](TKSLItemType type) { return ItemTypeRow(type).align != arNone; },
+         {itPolyLine, itArc, itPolygon, itLink, itBezier}},
+        {"reference points",
+         [](TKSLItemType type) { return ItemTypeRow(type).guides != gpNone; },
+         {itLink, itBezier, itDim}},
+        {"a tool", [&](TKSLItemType type) { return tools.contains(ToUtf8(NameItem(type))); }, {}},
+        {"rows of undo", HasUndoOfItsOwn, {itPoint}},
+    };
+    const std::vector<std::string> types = TypesInHeader();
+    for (std::size_t number = itPoint; number < types.size(); ++number) {
+        const auto type = TKSLItemType(number);
+        if (!IsItemType(type)) {
+            ADD_FAILURE() << types[number] << " has no row";
+            continue;
+        }
+        EXPECT_EQ(ItemTypeRow(type).points == 0, HasTrait(type, trFreePoints)) << types[number];
+        for (const auto& row : rows)
+            EXPECT_EQ(row.has(type), !row.none.Has(type)) << types[number] << ": " << row.question;
+    }
+}
+
 TEST(Completeness, EveryTypeIsThereOrSaysThatItIsNot) {
     const auto available = Available();
     std::set<std::u16string_view> names;
-    for (int number = itPoint; number <= itRichText; ++number) {
+    for (int number = itPoint; IsItemType(TKSLItemType(number)); ++number) {
         const auto type = TKSLItemType(number);
         const std::string name = ToUtf8(NameItem(type));
         SCOPED_TRACE(name);

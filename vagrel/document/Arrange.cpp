@@ -36,7 +36,7 @@ std::int64_t LabelLength(TKSLAlignType axis, const TVGRBaseLabel& label) {
 }
 
 // The capability of an item whose size can be made that of another.
-IKSLSize* SizeOf(TVGRBaseItem& item) { return item.GetItemType() == itBezier ? nullptr : Query<IKSLSize>(&item); }
+IKSLSize* SizeOf(TVGRBaseItem& item) { return item.HasTrait(trCurve) ? nullptr : Query<IKSLSize>(&item); }
 
 } // namespace
 
@@ -49,9 +49,8 @@ void TVGRBaseLabel::AlignObjects(TKSLObjectAlign edge) {
     const std::int64_t target = fSelection[0]->BoundsRect().*side;
     {
         const UpdateScope bracket(*this);
-        ForEachLiving(std::vector(fSelection.begin() + 1, fSelection.end()), [&](TVGRBaseItem& item) {
-            MoveOn(axis, item, SubSat(target, item.BoundsRect().*side));
-        });
+        ForEachLiving(std::vector(fSelection.begin() + 1, fSelection.end()),
+                      [&](TVGRBaseItem& item) { MoveOn(axis, item, SubSat(target, item.BoundsRect().*side)); });
         CalcLinks();
     }
     fModified = true;
@@ -67,9 +66,8 @@ void TVGRBaseLabel::CenterSelection(TKSLAlignType axis) {
     const std::int64_t target = single ? LabelLength(axis, *this) / 2 : BoundsOn(axis, *fSelection[0]).Middle();
     {
         const UpdateScope bracket(*this);
-        ForEachLiving(std::vector(fSelection.begin() + !single, fSelection.end()), [&](TVGRBaseItem& item) {
-            MoveOn(axis, item, SubSat(target, BoundsOn(axis, item).Middle()));
-        });
+        ForEachLiving(std::vector(fSelection.begin() + !single, fSelection.end()),
+                      [&](TVGRBaseItem& item) { MoveOn(axis, item, SubSat(target, BoundsOn(axis, item).Middle())); });
         fStates += {lsModified, lsUpdate};
         CalcLinks();
         fModified = true;
@@ -124,7 +122,6 @@ void TVGRBaseLabel::SpaceSelection(TKSLAlignType axis, float gap) {
 }
 
 void TVGRBaseLabel::SameSize(TKSLAlignType axis) {
-    static constexpr TKSLSet<TKSLItemType> oneSize{itCircle, itLevel, itSector};
     const auto first = std::ranges::find_if(fSelection, [](TVGRBaseItem* item) { return SizeOf(*item) != nullptr; });
     if (first == fSelection.end())
         return;
@@ -140,7 +137,7 @@ void TVGRBaseLabel::SameSize(TKSLAlignType axis) {
             if (!size || &item == reference)
                 return;
             const TItemHandle alive(item);
-            const bool both = oneSize.Has(item.GetItemType());
+            const bool both = item.HasTrait(trOneSize);
             if (wide || both)
                 size->SetBaseWidth(value);
             if (alive && (!wide || both))

@@ -14,9 +14,8 @@ void TVGRBaseLabel::CalcLinks() {
 }
 
 void TVGRBaseLabel::Recalculate() {
-    static constexpr TKSLSet<TKSLItemType> followers{itArrowLine, itPara, itFlow, itDim, itRichText};
     ForEachLiving(fSelection, [](TVGRBaseItem& item) {
-        if (followers.Has(item.GetItemType()))
+        if (item.HasTrait(trFollowsMove))
             item.CalcValues(2);
     });
     CalcLinks();

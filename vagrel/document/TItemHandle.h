@@ -46,8 +46,8 @@ private:
     TTold fTold;
 };
 
-/// Calls `action` for each item of a list as it stands now, if the item is alive when its turn comes: the action may run
-/// code of the host, which adds and deletes.
+/// Calls `action` for each item of a list as it stands now, if the item is alive when its turn comes: the action may
+/// run code of the host, which adds and deletes.
 template <class Items, class Action>
 void ForEachLiving(const Items& items, Action action) {
     std::vector<TItemHandle> handles;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What changed in one list of a document since some point: the members of its elements, which of them came and went, and
-// their order. Elements that left the list are parked here, so that they come back as they were, at the same address.
+// What changed in one list of a document since some point: the members of its elements, which of them came and went,
+// and their order. Elements that left the list are parked here, so that they come back as they were, at the same
+// address.
 #pragma once
 
 #include <vagrel/document/TMembers.h>
@@ -53,8 +54,8 @@ public:
     }
     void Park(std::unique_ptr<T> element) { fParked.push_back(std::move(element)); }
 
-    /// Ends the keeping: finds what came, went and was moved, and drops images that equal what stands. True when anything is
-    /// left.
+    /// Ends the keeping: finds what came, went and was moved, and drops images that equal what stands. True when
+    /// anything is left.
     bool Settle(const TList& list) {
         FindMoves(list);
         const TPark parked = Parked();
@@ -209,11 +210,11 @@ private:
         return found == parked.end() ? TIdentity<T>::Element(key) : found->second;
     }
 
-    std::unordered_map<TKey, TImage> fImages;  ///< empty for elements that were born here
-    std::optional<std::size_t> fCount;         ///< the size before elements were appended, while nothing else happened
-    std::optional<std::vector<TKey>> fBefore;  ///< the order before
-    std::vector<TKey> fAfter;                  ///< the order after, where elements were moved
-    std::vector<TSpot> fLeaving, fEntering;    ///< else: what an exchange takes out, and what it puts where
+    std::unordered_map<TKey, TImage> fImages; ///< empty for elements that were born here
+    std::optional<std::size_t> fCount;        ///< the size before elements were appended, while nothing else happened
+    std::optional<std::vector<TKey>> fBefore; ///< the order before
+    std::vector<TKey> fAfter;                 ///< the order after, where elements were moved
+    std::vector<TSpot> fLeaving, fEntering;   ///< else: what an exchange takes out, and what it puts where
     TList fParked;
 };
 

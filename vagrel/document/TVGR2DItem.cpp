@@ -45,12 +45,12 @@ float TVGR2DItem::GetWidth() const { return GetValue(BaseWidth(), fOwner.GetUnit
 float TVGR2DItem::GetHeight() const { return GetValue(BaseHeight(), fOwner.GetUnits()); }
 
 void TVGR2DItem::SetWidth(float value) {
-    if (fItemType != itBarcode && value != GetWidth())
+    if (!HasTrait(trSizeFollows) && value != GetWidth())
         SetPointX(2, GetPointX(1) + value);
 }
 
 void TVGR2DItem::SetHeight(float value) {
-    if (fItemType != itBarcode && value != GetHeight())
+    if (!HasTrait(trSizeFollows) && value != GetHeight())
         SetPointY(2, GetPointY(1) + value);
 }
 
@@ -75,7 +75,7 @@ std::int64_t TVGR2DItem::WidthPx(int dpi) const { return fOwner.ToPixels(BaseWid
 std::int64_t TVGR2DItem::HeightPx(int dpi) const { return fOwner.ToPixels(BaseHeight(), dpi); }
 
 void TVGR2DItem::CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt option) const {
-    if (fItemType == itPolygon)
+    if (HasTrait(trClosed))
         TVGRBaseItem::CheckBaseBoundsMove(bx, by, option);
     else
         CheckBaseBoundsMoveResize(bx, by, option);

@@ -77,9 +77,7 @@ void TVGRBaseItem::SetAngle(TKSLAngle value) { Store(fAngle, value, cmd::Angle);
 
 float TVGRBaseItem::GetPenWidth() const { return GetBaseValue(fPenWidth); }
 
-void TVGRBaseItem::SetPenWidth(float mm) {
-    Store(fPenWidth, ToInt32(SetBaseValue(mm)), cmd::PenWidth, TFollow::None);
-}
+void TVGRBaseItem::SetPenWidth(float mm) { Store(fPenWidth, ToInt32(SetBaseValue(mm)), cmd::PenWidth, TFollow::None); }
 
 void TVGRBaseItem::SetLayer(TVGRLayer& value) {
     if (&value == fLayer)

@@ -6,6 +6,7 @@
 #include <vagrel/document/Capabilities.h>
 #include <vagrel/document/TVGRCmd.h>
 #include <vagrel/foundation/Crossings.h>
+#include <vagrel/foundation/ItemTypes.h>
 #include <vagrel/svg/TSVGOutput.h>
 
 #include <memory>
@@ -67,6 +68,8 @@ public:
     /// The default identifier: the type's name and the number with at least three digits.
     void SetName();
     TKSLItemType GetItemType() const { return fItemType; }
+    const TItemTypeRow& TypeRow() const { return ItemTypeRow(fItemType); }
+    bool HasTrait(TItemTrait trait) const { return vagrel::HasTrait(fItemType, trait); }
     TKSLItemState GetState() const { return fState; }
     void SetState(TKSLItemState value) { fState = value; }
     bool GetResize() const { return fResize; }
@@ -249,8 +252,8 @@ protected:
     TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, bool preview);
     TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview);
 
-    /// What a setter does with a clamped value: nothing for an equal one; else it records the old one, stores, and marks.
-    /// False for an equal value, and when the event that tells of the recording ended the item.
+    /// What a setter does with a clamped value: nothing for an equal one; else it records the old one, stores, and
+    /// marks. False for an equal value, and when the event that tells of the recording ended the item.
     template <class T>
     bool Store(T& field, std::type_identity_t<T> value, TUndoRow row = {}, TFollow follow = TFollow::Update);
     /// Records a property that is about to change; false as above.

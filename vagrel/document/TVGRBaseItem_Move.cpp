@@ -145,10 +145,10 @@ void TVGRBaseItem::RotateRight() {
 }
 
 void TVGRBaseItem::BoundsMove(float& ax, float& ay) const {
-    if (fItemType == itSector)
+    if (HasTrait(trOffPage))
         return;
     const TVGRMeasure& measure = fOwner.GetMeasure();
-    const int count = fItemType == itArrowLine ? 2 : NumPoints();
+    const int count = HasTrait(trLineOnPage) ? 2 : NumPoints();
     for (int i = 1; i <= count; ++i) {
         ClipMove(ax, GetPointX(i), GetPointX(i), measure.WidthUnits());
         ClipMove(ay, GetPointY(i), GetPointY(i), measure.HeightUnits());
@@ -156,11 +156,11 @@ void TVGRBaseItem::BoundsMove(float& ax, float& ay) const {
 }
 
 void TVGRBaseItem::CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt) const {
-    if (fItemType == itSector)
+    if (HasTrait(trOffPage))
         return;
     const TVGRMeasure& measure = fOwner.GetMeasure();
     const std::int64_t width = measure.GetSize(mtLabelWidth, true), height = measure.GetSize(mtLabelHeight, true);
-    const int count = fItemType == itArrowLine ? 2 : int(fPoints.size());
+    const int count = HasTrait(trLineOnPage) ? 2 : int(fPoints.size());
     for (int i = 1; i <= count; ++i) {
         ClipBase(bx, At(i).bX, At(i).bX, width);
         ClipBase(by, At(i).bY, At(i).bY, height);
@@ -168,7 +168,7 @@ void TVGRBaseItem::CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by, TKSLM
 }
 
 void TVGRBaseItem::CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by) const {
-    if (fItemType != itSector)
+    if (!HasTrait(trOffPage))
         ClipToPage(bx, by, fBoundsRect);
 }
 
@@ -179,7 +179,7 @@ void TVGRBaseItem::ClipToPage(std::int64_t& bx, std::int64_t& by, const TKSLRect
 }
 
 void TVGRBaseItem::CheckBaseBoundsMoveResize(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt option) const {
-    if (fItemType == itSector)
+    if (HasTrait(trOffPage))
         return;
     const TVGRMeasure& measure = fOwner.GetMeasure();
     const std::int64_t width = measure.GetSize(mtLabelWidth, true), height = measure.GetSize(mtLabelHeight, true);

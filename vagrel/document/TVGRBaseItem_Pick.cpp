@@ -12,24 +12,11 @@
 
 namespace vagrel {
 
-namespace {
-
-using TTypes = TKSLSet<TKSLItemType>;
-
-constexpr TTypes LineTypes{itLine, itArrowLine, itLink, itDim};
-constexpr TTypes ChainTypes{itLine, itArrowLine, itPolyLine, itPolygon, itBezier, itDim};
-constexpr TTypes MatrixTypes{itBarcode, itPDF417, itDataMatrix, itQRCode};
-constexpr TTypes RoundTypes{itCircle, itEllipse, itLevel, itSector};
-constexpr TTypes AlignedTypes =
-    TTypes{itPoint,    itRectangle, itCircle,     itEllipse, itText,   itPara,   itImage,   itFlow,    itTable,
-           itPolyText, itRank,      itNutriScore, itLevel,   itSymbol, itSector, itPackage, itRichText} +
-    MatrixTypes;
-
-} // namespace
-
 bool TVGRBaseItem::Pick(std::int64_t bx, std::int64_t by, std::int64_t gap, bool) {
+    const TItemTypeRow& row = TypeRow();
+    const bool thin = row.line != 0 || row.traits.Has(trLink);
     auto within = [&](std::int64_t value, std::int64_t low, std::int64_t high) {
-        if (low == high || LineTypes.Has(fItemType))
+        if (low == high || thin)
             low = SubSat(low, gap), high = AddSat(high, gap);
         return value >= low && value < high;
     };
@@ -68,7 +55,8 @@ bool TVGRBaseItem::SnapTangent(std::int64_t bx, std::int64_t by, std::int64_t ga
 }
 
 bool TVGRBaseItem::CheckPoint(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLSnap snap, TKSLRef& ref) const {
-    if (!ChainTypes.Has(fItemType))
+    const TItemTypeRow& row = TypeRow();
+    if (row.line == 0 && !row.traits.HasAny({trChain, trCurve}))
         return false;
     const TKSLChain chain = Chain();
     auto anySegment = [&](auto hit) {
@@ -82,7 +70,7 @@ bool TVGRBaseItem::CheckPoint(std::int64_t bx, std::int64_t by, std::int64_t gap
         return anySegment([&](TKSLPto a, TKSLPto b) { return Snap(bx, by, gap, Middle(a, b), rtyRect, ref); }) ||
                (chain.closed && Snap(bx, by, gap, Middle(At(chain.first), At(chain.last)), rtyRect, ref));
     case snEnd:
-        if (fItemType == itBezier)
+        if (row.traits.Has(trCurve))
             return !fPoints.empty() && (Snap(bx, by, gap, fPoints.front(), rtyRect, ref) ||
                                         Snap(bx, by, gap, fPoints.back(), rtyRect, ref));
         for (int i = std::max(chain.first, 1); i <= chain.last; ++i)
@@ -109,72 +97,55 @@ int TVGRBaseItem::PickLines(std::int64_t bx, std::int64_t by, std::int64_t gap) 
     for (int i = 1; i < count; ++i)
         if (near(At(i), At(i + 1)))
             return i;
-    return fItemType == itPolygon && count >= 2 && near(fPoints.back(), fPoints.front()) ? count : -1;
+    return HasTrait(trClosed) && count >= 2 && near(fPoints.back(), fPoints.front()) ? count : -1;
 }
 
 int TVGRBaseItem::GetNumRefPoints() const {
-    if (RoundTypes.Has(fItemType))
-        return 4;
-    switch (fItemType) {
-    case itUndefined:
-    case itLink:
-    case itBezier:
-    case itDim:
-        return 0;
-    case itPoint:
-    case itSymbol:
-        return 1;
-    case itPolyLine:
-    case itPolygon:
-        return int(fPoints.size());
-    default:
-        return 2;
-    }
+    constexpr int counts[] = {0, 1, 2, 2, 4}; // by TGuidePoints
+    const TGuidePoints guides = TypeRow().guides;
+    return guides == gpVertices ? int(fPoints.size()) : counts[guides];
 }
 
 TKSLPto TVGRBaseItem::GetRefPoint(int index) const {
     if (index < 1 || index > GetNumRefPoints())
         return {};
+    const TGuidePoints guides = TypeRow().guides;
     const TKSLRect& r = fBoundsRect;
     const TKSLPto middle = Middle({r.Left, r.Top}, {r.Right, r.Bottom});
-    if (RoundTypes.Has(fItemType))
+    if (guides == gpEdges)
         return std::array<TKSLPto, 4>{{{middle.bX, r.Top},
                                        {r.Right, middle.bY},
                                        {middle.bX, r.Bottom},
                                        {r.Left, middle.bY}}}[std::size_t(index - 1)];
     if (const auto* arc = Query<const IKSLArc>(this))
         return arc->GetPto(index == 1 ? 1 : 3);
-    constexpr TTypes own{itPoint, itSymbol, itLine, itArrowLine, itPolyLine, itPolygon};
-    if (own.Has(fItemType))
+    if (guides != gpCorners)
         return GetPoint(index);
     return index == 1 ? TKSLPto{r.Left, r.Top} : TKSLPto{r.Right, r.Bottom};
 }
 
 TKSLAlignTypes TVGRBaseItem::AlignTypes() const {
-    if (AlignedTypes.Has(fItemType))
-        return {anHorz, anVert};
-    constexpr TTypes straight{itLine, itArrowLine, itDim};
+    const TAlignRule rule = TypeRow().align;
+    if (rule == arNone)
+        return {};
     TKSLAlignTypes types;
-    if (straight.Has(fItemType)) {
-        types.Put(anHorz, GetPoint(1).bX == GetPoint(2).bX);
-        types.Put(anVert, GetPoint(1).bY == GetPoint(2).bY);
-    }
+    types.Put(anHorz, rule != arStraight || GetPoint(1).bX == GetPoint(2).bX);
+    types.Put(anVert, rule != arStraight || GetPoint(1).bY == GetPoint(2).bY);
     return types;
 }
 
 bool TVGRBaseItem::AlignPoints(TKSLAlignType axis, std::int64_t& from, std::int64_t& to) const {
-    constexpr TTypes byBounds = TTypes{itText, itPolyText} + MatrixTypes;
-    constexpr TTypes none{itUndefined, itPolyLine, itArc, itPolygon, itLink, itSymbol, itBezier};
-    if (none.Has(fItemType))
+    const TItemTypeRow& row = TypeRow();
+    if (row.align == arNone || row.align == arPlace)
         return false;
     auto along = [axis](TKSLPto point) { return axis == anHorz ? point.bX : point.bY; };
-    if (byBounds.Has(fItemType)) {
+    if (row.align == arBounds) {
         from = along({fBoundsRect.Left, fBoundsRect.Top});
         to = along({fBoundsRect.Right, fBoundsRect.Bottom});
         return true;
     }
     const std::int64_t first = along(GetPoint(1));
-    const std::int64_t second = fItemType == itPoint ? first : along(GetPoint(2));
+    const std::int64_t second = row.points == 1 ? first : along(GetPoint(2));
     from = std::min(first, second);
     to = std::max(first, second);
     return true;

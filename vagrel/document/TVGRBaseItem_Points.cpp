@@ -9,18 +9,6 @@
 
 namespace vagrel {
 
-namespace {
-
-// Families whose other points hang on point 1.
-bool DerivesPoints(TKSLItemType type) {
-    constexpr auto types = TKSLSet<TKSLItemType>{itBarcode, itPDF417, itDataMatrix, itQRCode, itTable, itPolyText};
-    return types.Has(type);
-}
-
-bool HasFreePoints(TKSLItemType type) { return type == itPolyLine || type == itPolygon || type == itBezier; }
-
-} // namespace
-
 void TKSLExtent::Widen(std::int64_t x, std::int64_t y, std::int64_t by) {
     auto lower = [](std::int64_t& limit, std::int64_t value) { limit = limit == -1 ? value : std::min(limit, value); };
     auto raise = [](std::int64_t& limit, std::int64_t value) { limit = limit == -1 ? value : std::max(limit, value); };
@@ -58,7 +46,7 @@ void TVGRBaseItem::SetPointY(int index, float value) {
 void TVGRBaseItem::PointStored() {
     if (fOwner.HasAnyState({lsReading}))
         return;
-    if (DerivesPoints(fItemType))
+    if (HasTrait(trDerivedPoints))
         UpdatePoints();
     else
         UpdateBounds();
@@ -75,7 +63,7 @@ void TVGRBaseItem::SetBaseX(int index, std::int64_t x) { SetBase(index, x, GetPo
 void TVGRBaseItem::SetBaseY(int index, std::int64_t y) { SetBase(index, GetPoint(index).bX, y); }
 
 bool TVGRBaseItem::DeletePoint(int index) {
-    if (!HasFreePoints(fItemType) || !InRange(index))
+    if (!HasTrait(trFreePoints) || !InRange(index))
         return false;
     fPoints.erase(fPoints.begin() + (index - 1));
     return true;
@@ -87,8 +75,7 @@ void TVGRBaseItem::AssignPoints(const TKSLPtoA& points) {
 }
 
 void TVGRBaseItem::NormalizePoints() {
-    constexpr auto ordered = TKSLSet<TKSLItemType>{itLine, itArrowLine, itText, itDim, itPolyText};
-    if (fPoints.size() == 2 && !ordered.Has(fItemType))
+    if (fPoints.size() == 2 && !HasTrait(trOrderedPoints))
         TVGRBaseItem::CheckPosition();
 }
 
@@ -122,13 +109,14 @@ TKSLBase TVGRBaseItem::MeanPoint() const {
 }
 
 void TVGRBaseItem::UpdateBounds() {
-    if (fItemType == itText) {
+    const TItemTypeRow& row = TypeRow();
+    if (row.traits.Has(trInPlace)) {
         if (fOwner.GetAction() >= eaText && fOwner.GetAction() <= eaMoveText)
             fOwner.FillSelPoints();
         return;
     }
-    const int first = fItemType == itDim ? 5 : 1;
-    if (fPoints.size() == 2 || fItemType == itArrowLine || fItemType == itDim) {
+    if (fPoints.size() == 2 || row.line != 0) {
+        const int first = std::max(row.line, 1);
         const TKSLPto a = GetPoint(first), b = GetPoint(first + 1);
         fBoundsRect = {a.bX, a.bY, b.bX, b.bY};
     } else {

@@ -22,8 +22,6 @@ namespace {
 // Leaves room for the numbers of items to come.
 constexpr std::int32_t HighestID = 1 << 30;
 
-bool HasFreePoints(TKSLItemType type) { return type == itPolyLine || type == itPolygon || type == itBezier; }
-
 } // namespace
 
 std::unique_ptr<TJsonObject> TVGRBaseItem::WriteJson() const {
@@ -33,7 +31,7 @@ std::unique_ptr<TJsonObject> TVGRBaseItem::WriteJson() const {
     json->SetInt(u"InID", fInID);
     json->SetString(u"ID", fID);
     json->SetInt(u"Layer", fOwner.LayerIdx(*fLayer));
-    if (fItemType != itSymbol) {
+    if (!HasTrait(trUnstyled)) {
         json->SetInt(u"Angle", fAngle);
         SetAlphaColor(*json, u"Color", fColor);
         json->SetFloat(u"PenWidth", RoundTo3(GetPenWidth()));
@@ -60,7 +58,7 @@ void TVGRBaseItem::ReadJson(std::int32_t version, TJsonObject& json) {
     fID = json.GetString(u"ID");
     fOwner.RaiseMaxID(fInID);
     fLayer = &fOwner.LayerAt(std::min(json.GetInt(u"Layer"), fOwner.LayersCount()));
-    if (fItemType != itSymbol) {
+    if (!HasTrait(trUnstyled)) {
         fAngle = TKSLAngle(json.GetInt(u"Angle"));
         fColor = GetAlphaColor(json.GetObject(u"Color"));
         SetPenWidth(float(json.GetFloat(u"PenWidth")));
@@ -72,7 +70,7 @@ void TVGRBaseItem::ReadJson(std::int32_t version, TJsonObject& json) {
     fOptions.Put(lopSelectable, options.GetBool(u"Selectable"));
     fOptions.Put(lopExport, options.GetBool(u"Export"));
     TJsonArray& points = json.GetArray(u"Points");
-    if (HasFreePoints(fItemType))
+    if (HasTrait(trFreePoints))
         fPoints.resize(std::size_t(points.Count()));
     for (int i = 1; i <= points.Count() && InRange(i); ++i) {
         TJsonObject& point = points.GetObject(i - 1);
@@ -119,7 +117,7 @@ void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLRea
     const int count = reader.Read<std::int16_t>();
     if (count < 0 || std::size_t(count) * 2 * sizeof(std::int64_t) > reader.Left())
         throw EStreamError("damaged point count at byte " + std::to_string(reader.Position()));
-    if (HasFreePoints(fItemType))
+    if (HasTrait(trFreePoints))
         fPoints.resize(std::size_t(count));
     for (int i = 1; i <= count; ++i) {
         const auto x = reader.Read<std::int64_t>();

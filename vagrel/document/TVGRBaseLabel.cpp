@@ -2,10 +2,10 @@
 // The life of a document, its identifiers and its simple properties.
 #include <vagrel/document/TVGRBaseLabel.h>
 
+#include <vagrel/document/TUndoStacks_p.h>
 #include <vagrel/document/TVGRBackSurf.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRBasePrintInfo.h>
-#include <vagrel/document/TUndoStacks_p.h>
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/document/TVGRSettings.h>

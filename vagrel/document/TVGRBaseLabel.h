@@ -44,6 +44,7 @@ class TVGRMapping;
 class TVGRMeasure;
 class TVGRSettings;
 struct TIntSecPoint;
+enum TItemTrait : std::uint8_t;
 enum TVGRCmdKind : std::int32_t;
 struct TKSLExtent;
 struct TVGRCmd;
@@ -679,7 +680,7 @@ private:
     /// Takes an item out of the selection and tells the host.
     void Unselect(TVGRBaseItem& item);
     /// Tells of a new selection; a single text of the given types that is not bound to data is opened instead.
-    void SelectionPicked(TKSLSet<TKSLItemType> texts);
+    void SelectionPicked(TKSLSet<TItemTrait> texts);
     /// A step of the drag; false when nothing moved. `DragRadius` and `DragShape` take the pointer's place.
     bool Drag(std::int64_t bx, std::int64_t by, std::int64_t grX, std::int64_t grY, bool refLines);
     bool DragRadius(TKSLPto pointer);
@@ -744,8 +745,8 @@ private:
     bool fDestroying = false;
 };
 
-/// An update bracket that closes with its scope, after an exception too. Inside another one it opens and closes nothing.
-/// Inside `BeginUpdate` of a host its notices go out at its end, and its commands are of the host's step.
+/// An update bracket that closes with its scope, after an exception too. Inside another one it opens and closes
+/// nothing. Inside `BeginUpdate` of a host its notices go out at its end, and its commands are of the host's step.
 class UpdateScope {
 public:
     explicit UpdateScope(TVGRBaseLabel& label, bool paintOnEnd = true)

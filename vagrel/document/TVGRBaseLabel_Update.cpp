@@ -355,27 +355,17 @@ void TVGRBaseLabel::TellUnselected() {
 }
 
 IKSLText* TVGRBaseLabel::GetTextObject() const {
-    constexpr TKSLSet<TKSLItemType> texts{itText, itRichText};
-    return !fSelection.empty() && texts.Has(fSelection[0]->GetItemType()) ? Query<IKSLText>(fSelection[0]) : nullptr;
+    return !fSelection.empty() && fSelection[0]->HasTrait(trText) ? Query<IKSLText>(fSelection[0]) : nullptr;
 }
 
 bool TVGRBaseLabel::DoDblClick() {
-    struct TRow {
-        TKSLItemType type;
-        TKSLInsProp prop;
-        int kind;
-    };
-    constexpr TRow rows[] = {{itPara, ipMemo, 1},        {itRichText, ipMemo, 1}, {itPDF417, ipMemo, 10},
-                             {itDataMatrix, ipMemo, 11}, {itQRCode, ipMemo, 12},  {itImage, ipImage, 1},
-                             {itFlow, ipMemo, 2},        {itTable, ipTable, 2},   {itPolyText, ipPolyText, 2},
-                             {itPackage, ipMemo, 14}};
     if (!GetEditable() || fSelection.size() != 1)
         return false;
-    const auto row = std::ranges::find(rows, fSelection[0]->GetItemType(), &TRow::type);
-    if (row == std::end(rows))
+    const TItemTypeRow& row = fSelection[0]->TypeRow();
+    if (row.kind == 0)
         return false;
-    fChangeVal.fInt1 = row->prop;
-    fChangeVal.fInt2 = row->kind;
+    fChangeVal.fInt1 = row.prop;
+    fChangeVal.fInt2 = row.kind;
     fChangeVal.fBool = true;
     ChangeValue(chEditInspect);
     return true;

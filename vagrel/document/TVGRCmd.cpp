@@ -194,9 +194,7 @@ TVGRCmdValue Snapshot(const TVGRBaseItem& item) {
     return writer.Take();
 }
 
-bool Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t index) {
-    return item.KSLab().Record(item, kind, index);
-}
+bool Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t index) { return item.KSLab().Record(item, kind, index); }
 
 } // namespace
 
@@ -210,17 +208,19 @@ void RestoreState(TVGRBaseItem& item, const TVGRCmd& command) {
     Find(command.fKind, command.fIndex).set(item, command.fIndex, command.fValue);
 }
 
-bool TVGRColorCmd::AddCommand(TVGRBaseItem& item, cmd::TColorIndex index) {
-    return Record(item, ckColor, index);
-}
+bool TVGRColorCmd::AddCommand(TVGRBaseItem& item, cmd::TColorIndex index) { return Record(item, ckColor, index); }
 
 bool TVGRCreateCmd::AddCommand(TVGRBaseItem& item) { return Record(item, ckCreate, 0); }
 
 bool TVGRDeleteCmd::AddCommand(TVGRBaseItem& item) { return Record(item, ckDelete, 0); }
 
-bool TVGRBaseValueCmd::AddCommand(TVGRBaseItem& item, cmd::TBaseValueIndex index) { return Record(item, ckBaseValue, index); }
+bool TVGRBaseValueCmd::AddCommand(TVGRBaseItem& item, cmd::TBaseValueIndex index) {
+    return Record(item, ckBaseValue, index);
+}
 bool TVGRBoolCmd::AddCommand(TVGRBaseItem& item, cmd::TBoolIndex index) { return Record(item, ckBool, index); }
-bool TVGREnumValueCmd::AddCommand(TVGRBaseItem& item, cmd::TEnumIndex index) { return Record(item, ckEnumValue, index); }
+bool TVGREnumValueCmd::AddCommand(TVGRBaseItem& item, cmd::TEnumIndex index) {
+    return Record(item, ckEnumValue, index);
+}
 
 bool TVGRPosCmd::AddCommand(TVGRBaseItem& item, int point, TKSLPosType type) {
     return Record(item, type == ptX ? ckPosX : ckPosY, point);

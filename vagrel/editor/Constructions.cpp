@@ -219,11 +219,11 @@ void TVGRBaseLabel::ConstructAngle() {
         return;
     if (!several) {
         const TVGRBaseItem& item = *fSelection[0];
-        const bool polygon = item.GetItemType() == itPolygon;
-        if (!polygon && item.GetItemType() != itPolyLine)
+        if (!item.HasTrait(trChain))
             return;
+        const bool closed = item.HasTrait(trClosed);
         const auto [low, high] = std::minmax(index1, index2);
-        if (high - low != 1 && !(polygon && low == 1 && high == item.NumPoints()))
+        if (high - low != 1 && !(closed && low == 1 && high == item.NumPoints()))
             return;
     }
     const UpdateScope bracket(*this);

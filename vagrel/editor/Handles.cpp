@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The handles of selected items: one row for each group of types, with what they show alone and among several.
+// The handles of selected items: one row for each form, with what it shows alone and among several.
 #include <vagrel/document/TVGRBaseLabel.h>
 
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/foundation/Snapping.h>
 #include <vagrel/items/text/TVGRBaseText.h>
 
-#include <algorithm>
+#include <iterator>
 
 namespace vagrel {
 
@@ -32,21 +32,19 @@ struct THandles {
     }
     /// A handle that drags when the item is alone.
     TKSLSelType Movable(TKSLSelType type) const { return alone ? type : stFixedPoint; }
+    TKSLPto LineEnd(int end) const { return item.GetPoint(item.TypeRow().line + end); }
     TKSLPto Center() const { return Middle(item.GetPoint(1), item.GetPoint(2)); }
 };
 
 void Reference(const THandles& to) { to.AddReference(to.Movable(stPoint)); }
 
-template <int First>
+// The ends of its line.
 void Ends(const THandles& to) {
     for (int end = 0; end < 2; ++end)
-        to.Add(to.Movable(stSizePoint), end + 1, to.item.GetPoint(First + end));
+        to.Add(to.Movable(stSizePoint), end + 1, to.LineEnd(end));
 }
 
-template <int First>
-void Segment(const THandles& to) {
-    to.Add(stRefLine, 1, to.item.GetPoint(First), to.item.GetPoint(First + 1));
-}
+void Segment(const THandles& to) { to.Add(stRefLine, 1, to.LineEnd(0), to.LineEnd(1)); }
 
 void Vertices(const THandles& to) {
     for (int i = 1; i <= to.item.NumPoints(); ++i)
@@ -143,11 +141,6 @@ void Anchor(const THandles& to) {
         to.Add(stAlign, 1, {to.item.BoundsRect().Left, to.item.BoundsRect().Top});
 }
 
-void Texts(const THandles& to) {
-    to.AddBox(to.Movable(stRect), to.item.BoundsRect());
-    Anchor(to);
-}
-
 void Text(const THandles& to) {
     const auto* text = to.item.IsBound() ? dynamic_cast<const TVGRBaseText*>(&to.item) : nullptr;
     to.AddBox(to.Movable(stRect), text ? text->GetDisplayBoundsRect() : to.item.BoundsRect());
@@ -164,38 +157,34 @@ void None(const THandles&) {}
 using TFill = void (*)(const THandles&);
 
 struct TRow {
-    TKSLSet<TKSLItemType> types;
     TFill selected;
     TFill reference; ///< what a picked reference shows
 };
 
+// By THandleForm.
 constexpr TRow Rows[] = {
-    {{itPoint, itSymbol}, Reference, None},
-    {{itLine, itArrowLine}, Ends<1>, Segment<1>},
-    {{itDim}, Ends<5>, Segment<5>},
-    {{itPolyLine, itPolygon}, Vertices, FixedVertices},
-    {{itBezier}, CurvePoints, None},
-    {{itArc}, RimPoints, None},
-    {{itRectangle, itImage, itFlow, itTable, itPackage, itRichText}, Corners, Corners},
-    {{itRank, itNutriScore}, Corners, None},
-    {{itPara}, CornersInBox, Corners},
-    {{itCircle, itSector}, Circle, FixedCircle},
-    {{itLevel}, Circle, None},
-    {{itEllipse}, Ellipse<2>, Ellipse<1>},
-    {{itLink}, Course, ArcLink},
-    {{itBarcode, itPDF417, itDataMatrix, itQRCode}, Code, None},
-    {{itPolyText}, Texts, None},
-    {{itText}, Text, None},
+    {None, None},
+    {Reference, None},
+    {Ends, Segment},
+    {Vertices, FixedVertices},
+    {CurvePoints, None},
+    {RimPoints, None},
+    {Corners, Corners},
+    {Corners, None},
+    {CornersInBox, Corners},
+    {Circle, FixedCircle},
+    {Circle, None},
+    {Ellipse<2>, Ellipse<1>},
+    {Course, ArcLink},
+    {Code, None},
+    {Text, None},
 };
+static_assert(std::size(Rows) == hfText + 1);
 
 void Gather(const std::vector<TVGRBaseItem*>& selection, std::vector<TKSSelectionValue>& out, TFill TRow::*form) {
     out.clear();
-    for (TVGRBaseItem* item : selection) {
-        const auto row =
-            std::ranges::find_if(Rows, [item](const TRow& each) { return each.types.Has(item->GetItemType()); });
-        if (row != std::end(Rows))
-            (row->*form)({*item, selection.size() == 1, out});
-    }
+    for (TVGRBaseItem* item : selection)
+        (Rows[item->TypeRow().handles].*form)({*item, selection.size() == 1, out});
 }
 
 } // namespace

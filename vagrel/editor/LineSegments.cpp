@@ -13,8 +13,6 @@ namespace vagrel {
 
 namespace {
 
-constexpr TKSLSet<TKSLItemType> Segmented{itLine, itArrowLine, itDim, itPolyLine, itPolygon};
-
 double DistanceToSegment(TKSLPto place, TKSLPto from, TKSLPto to) {
     const double dx = Difference(to.bX, from.bX), dy = Difference(to.bY, from.bY);
     const double px = Difference(place.bX, from.bX), py = Difference(place.bY, from.bY);
@@ -27,7 +25,8 @@ double DistanceToSegment(TKSLPto place, TKSLPto from, TKSLPto to) {
 
 bool TVGRBaseLabel::GetItemLineSegmentIndex(const TVGRBaseItem& item, std::int64_t bx, std::int64_t by, int& index,
                                             TKSLRefLine& segment) const {
-    if (!Segmented.Has(item.GetItemType()))
+    const TItemTypeRow& row = item.TypeRow();
+    if (row.line == 0 && !row.traits.Has(trChain))
         return false;
     const TKSLChain chain = item.Chain();
     double nearest = std::numeric_limits<double>::infinity();

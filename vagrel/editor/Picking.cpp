@@ -13,18 +13,6 @@ namespace vagrel {
 
 namespace {
 
-using TTypes = TKSLSet<TKSLItemType>;
-
-// What the geometry actions work on.
-constexpr TTypes GeometryTypes{itLine, itArrowLine, itPolyLine, itArc, itRectangle, itPolygon, itCircle, itEllipse};
-
-// What can be a reference of the running action.
-TTypes ReferenceTypes() {
-    TTypes types = GeometryTypes + TTypes{itDim};
-    types.Put(itBezier, TAct::GetAction() == eaEquidist);
-    return types;
-}
-
 bool IsTrimOrExtend(TKSLEdAction action) { return action == eaTrim || action == eaExtend; }
 
 } // namespace
@@ -41,8 +29,8 @@ void TVGRBaseLabel::Unselect(TVGRBaseItem& item) {
     std::erase(fSelection, &item); // its address alone: the event may have ended it
 }
 
-void TVGRBaseLabel::SelectionPicked(TTypes texts) {
-    if (fSelection.size() == 1 && texts.Has(fSelection[0]->GetItemType()) && !fSelection[0]->IsBound())
+void TVGRBaseLabel::SelectionPicked(TItemTraits texts) {
+    if (fSelection.size() == 1 && fSelection[0]->TypeRow().traits.HasAny(texts) && !fSelection[0]->IsBound())
         EditSelText();
     else
         ChangeValue(chSelect);
@@ -80,7 +68,7 @@ bool TVGRBaseLabel::SearchSelection(std::int64_t bx, std::int64_t by, std::int64
         FillRefLines();
     FillSelPoints();
     FillLinkList();
-    SelectionPicked(GetEditable() ? TTypes{itText} : TTypes());
+    SelectionPicked(GetEditable() ? TItemTraits{trInPlace} : TItemTraits());
     return true;
 }
 
@@ -99,7 +87,7 @@ bool TVGRBaseLabel::SearchRectangle(const TKSLRect& rect, bool cross) {
         return false;
     FillSelPoints();
     FillLinkList();
-    SelectionPicked({itText, itRichText});
+    SelectionPicked({trText});
     return true;
 }
 
@@ -109,13 +97,14 @@ bool TVGRBaseLabel::SearchRef(std::int64_t bx, std::int64_t by, std::int64_t gap
         // A change may replace a reference by another item.
         const std::vector<TVGRBaseItem*> references = fSelection;
         for (TVGRBaseItem* item : references)
-            if (std::ranges::count(fSelection, item) > 0 && GeometryTypes.Has(item->GetItemType()) && item->Pick(bx, by, gap, false) &&
-                UpdateCurAction(*item, bx, by))
+            if (std::ranges::count(fSelection, item) > 0 && item->HasTrait(trGeometry) &&
+                item->Pick(bx, by, gap, false) && UpdateCurAction(*item, bx, by))
                 return true;
     }
-    const TTypes types = ReferenceTypes();
+    TItemTraits wanted{trReference};
+    wanted.Put(trCurve, action == eaEquidist);
     TVGRBaseItem* hit = TopItem([&](TVGRBaseItem& item) {
-        if (!types.Has(item.GetItemType()) || !item.Pick(bx, by, gap, false))
+        if (!item.TypeRow().traits.HasAny(wanted) || !item.Pick(bx, by, gap, false))
             return false;
         return !apply || (!(IsTrimOrExtend(action) && Selected(item)) && UpdateCurAction(item, bx, by));
     });
@@ -127,7 +116,7 @@ bool TVGRBaseLabel::SearchRef(std::int64_t bx, std::int64_t by, std::int64_t gap
         fSelection.push_back(hit);
         if (OnSelectItem)
             OnSelectItem(*this, *hit);
-    } else if (action == eaDimAng && (hit->GetItemType() == itPolyLine || hit->GetItemType() == itPolygon)) {
+    } else if (action == eaDimAng && hit->HasTrait(trChain)) {
         return true; // its second segment may be picked next
     } else {
         Unselect(*hit);
@@ -182,7 +171,7 @@ void TVGRBaseLabel::FillLinkList() {
         link->SetState(std::ranges::binary_search(ids, link->GetInID()) ? isSelected : isNormal);
     fLinks.clear();
     for (const auto& item : fItems) {
-        const auto* link = item->GetItemType() == itLink ? Query<const IKSLLinkItem>(item.get()) : nullptr;
+        const auto* link = item->HasTrait(trLink) ? Query<const IKSLLinkItem>(item.get()) : nullptr;
         if (link &&
             (std::ranges::binary_search(ids, link->GetFromID()) || std::ranges::binary_search(ids, link->GetToID()))) {
             item->SetState(isSelected);

@@ -33,8 +33,7 @@ void TVGRBaseLabel::EndReferences() {
 }
 
 bool TVGRBaseLabel::InsertVertex(std::int64_t bx, std::int64_t by, std::int64_t gap) {
-    constexpr TKSLSet<TKSLItemType> chains{itPolyLine, itPolygon, itBezier};
-    if (fSelection.size() != 1 || !chains.Has(fSelection[0]->GetItemType()) || !fSelection[0]->Pick(bx, by, gap, false))
+    if (fSelection.size() != 1 || !fSelection[0]->HasTrait(trFreePoints) || !fSelection[0]->Pick(bx, by, gap, false))
         return false;
     TVGRBaseItem& item = *fSelection[0];
     item.InsertPoint(bx, by, gap);
