@@ -9,6 +9,15 @@
 
 namespace vagrel::detail {
 
+/// Codewords that say what the ones behind them are.
+enum TCodewordLabel : std::int32_t {
+    LatchText = 900,
+    LatchNumeric = 902,
+    EciUser = 925,        ///< and one word: an interpretation of the user's, from 810900 on
+    EciGeneral = 926,     ///< and two words: one from 900 on
+    EciCharacterSet = 927 ///< and one word: one below
+};
+
 /// Sub-modes of Text compaction.
 enum TSubMode : std::uint8_t { Alpha, Lower, Mixed, Punctuation, SubModeCount };
 
