@@ -20,16 +20,10 @@ namespace vagrel {
 
 namespace {
 
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-
-std::string_view WithoutMark(std::string_view bytes) {
-    return bytes.starts_with(ByteOrderMark) ? bytes.substr(ByteOrderMark.size()) : bytes;
-}
-
-// A document is JSON when its first character is an opening brace.
+// A document is JSON when its first character is an opening brace. What a byte order mark has, and the zeros that
+// UTF-16 puts beside a character, are none.
 bool IsJson(std::string_view bytes) {
-    bytes = WithoutMark(bytes);
-    const std::size_t first = bytes.find_first_not_of(" \t\r\n");
+    const std::size_t first = bytes.find_first_not_of(std::string_view(" \t\r\n\xEF\xBB\xBF\xFE\xFF\0", 10));
     if (first == std::string_view::npos)
         throw EVagrel(u"The file is empty");
     return bytes[first] == '{';
@@ -130,7 +124,7 @@ void HostLabel::ReadDocument(TJsonObject& root) {
 void HostLabel::ReadDocument(std::string_view bytes) {
     if (IsJson(bytes)) {
         TJsonObject root;
-        root.ParseUtf8(WithoutMark(bytes));
+        root.ParseBytes(bytes);
         ReadDocument(root);
     } else {
         CheckBinary(bytes);
