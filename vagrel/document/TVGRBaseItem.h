@@ -25,6 +25,9 @@ struct TKSLExtent {
 
     /// Takes in the square of side 2 × `by` around a point.
     void Widen(std::int64_t x, std::int64_t y, std::int64_t by);
+
+private:
+    bool fHasValues = false;
 };
 
 /// Which points of an item form a chain of straight segments, counted from 1; `first` is 0 for none.

@@ -23,10 +23,17 @@ bool HasFreePoints(TKSLItemType type) { return type == itPolyLine || type == itP
 } // namespace
 
 void TKSLExtent::Widen(std::int64_t x, std::int64_t y, std::int64_t by) {
-    auto lower = [](std::int64_t& limit, std::int64_t value) { limit = limit == -1 ? value : std::min(limit, value); };
-    auto raise = [](std::int64_t& limit, std::int64_t value) { limit = limit == -1 ? value : std::max(limit, value); };
+    // Callers may hand in some limits of their own and leave others unset.
+    auto isUnset = [this](std::int64_t limit) { return !fHasValues && limit == -1; };
+    auto lower = [&](std::int64_t& limit, std::int64_t value) {
+        limit = isUnset(limit) ? value : std::min(limit, value);
+    };
+    auto raise = [&](std::int64_t& limit, std::int64_t value) {
+        limit = isUnset(limit) ? value : std::max(limit, value);
+    };
     lower(minX, SubSat(x, by)), raise(maxX, AddSat(x, by));
     lower(minY, SubSat(y, by)), raise(maxY, AddSat(y, by));
+    fHasValues = true;
 }
 
 TKSLPto TVGRBaseItem::GetPoint(int index) const { return InRange(index) ? At(index) : TKSLPto(); }
@@ -132,7 +139,7 @@ void TVGRBaseItem::UpdateBounds() {
         fBoundsRect = {a.bX, a.bY, b.bX, b.bY};
     } else {
         // -1 on the left or the top means that there is no value yet.
-        fBoundsRect = TKSLRect::EmptyRect();
+        fBoundsRect.EmptyRect();
         for (const TKSLPto& point : fPoints) {
             if (fBoundsRect.Left == -1 || point.bX < fBoundsRect.Left)
                 fBoundsRect.Left = point.bX;
