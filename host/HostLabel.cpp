@@ -39,28 +39,34 @@ void CheckBinary(std::string_view bytes) {
 // No length, whatever its unit, leaves the 64 bits of base units below this.
 constexpr double LargestNumber = 9.3e15;
 
-// The place of a number that nothing in a document can hold, for which the readers would take the nearest that fits.
-std::optional<std::string> FindAbsurd(const TJsonDataValue& value) {
+struct TAbsurd {
+    std::string place;
+    const TJsonDataValue& value;
+};
+
+// A number that nothing in a document can hold, for which the readers would take the nearest that fits.
+std::optional<TAbsurd> FindAbsurd(const TJsonDataValue& value) {
     const TJsonDataType typ = value.GetTyp();
     if (typ == jdtULong || (typ == jdtFloat && !(std::fabs(value.GetFloatValue()) < LargestNumber)))
-        return "";
+        return TAbsurd{"", value};
     if (typ == jdtObject) {
         for (auto [name, member] : *value.GetObjectValue())
-            if (const auto place = FindAbsurd(member))
-                return "." + ToUtf8(name) + *place;
+            if (const auto found = FindAbsurd(member))
+                return TAbsurd{"." + ToUtf8(name) + found->place, found->value};
     } else if (typ == jdtArray) {
         const TJsonArray& array = *value.GetArrayValue();
         for (int i = 0; i < array.Count(); ++i)
-            if (const auto place = FindAbsurd(array.ItemAt(i)))
-                return "[" + std::to_string(i) + "]" + *place;
+            if (const auto found = FindAbsurd(array.ItemAt(i)))
+                return TAbsurd{"[" + std::to_string(i) + "]" + found->place, found->value};
     }
     return {};
 }
 
 void CheckNumbers(const TJsonObject& root) {
     for (auto [name, value] : root)
-        if (const auto place = FindAbsurd(value))
-            throw EOutOfRange(ToUtf8(name) + *place + ": the number is out of range");
+        if (const auto found = FindAbsurd(value))
+            throw Refusal<EOutOfRange>(ToUtf8(name) + found->place, ToUtf8(found->value.GetStringValue()),
+                                       "numbers below 9.3E15");
 }
 
 } // namespace

@@ -22,6 +22,14 @@ namespace {
 // Leaves room for the numbers of items to come.
 constexpr std::int32_t HighestID = 1 << 30;
 
+void CheckNumber(std::int32_t number) {
+    if (number > HighestID)
+        throw Refusal<EOutOfRange>("InID", std::to_string(number), "numbers up to " + std::to_string(HighestID));
+}
+
+// From here on single precision is coarser than the third decimal.
+constexpr double FirstInexact = 16384;
+
 bool HasFreePoints(TKSLItemType type) { return type == itPolyLine || type == itPolygon || type == itBezier; }
 
 } // namespace
@@ -55,8 +63,7 @@ std::unique_ptr<TJsonObject> TVGRBaseItem::WriteJson() const {
 
 void TVGRBaseItem::ReadJson(std::int32_t version, TJsonObject& json) {
     fInID = json.GetInt(u"InID");
-    if (fInID > HighestID)
-        throw EOutOfRange(u"InID: the number is out of range");
+    CheckNumber(fInID);
     fID = json.GetString(u"ID");
     fOwner.RaiseMaxID(fInID);
     fLayer = &fOwner.LayerAt(std::min(json.GetInt(u"Layer"), fOwner.LayersCount()));
@@ -109,6 +116,9 @@ void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLRea
         fInID = fOwner.NextID();
         SetName();
     } else {
+        // A session may come to such a number, and undo brings back what it had.
+        if (fOwner.HasAnyState({lsReading}))
+            CheckNumber(fInID);
         fOwner.RaiseMaxID(fInID);
     }
     fLayer = &fOwner.LayerAt(reader.Read<std::int16_t>());
@@ -118,7 +128,8 @@ void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLRea
     fOptions = TKSLayerOpts::FromBits(reader.Read<std::uint32_t>());
     const int count = reader.Read<std::int16_t>();
     if (count < 0 || std::size_t(count) * 2 * sizeof(std::int64_t) > reader.Left())
-        throw EStreamError("damaged point count at byte " + std::to_string(reader.Position()));
+        throw Refusal<EStreamError>("count of points before byte " + std::to_string(reader.Position()),
+                                    std::to_string(count), "what the rest of the data can hold");
     if (HasFreePoints(fItemType))
         fPoints.resize(std::size_t(count));
     for (int i = 1; i <= count; ++i) {
