@@ -148,9 +148,9 @@ void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLRea
 std::string TVGRBaseItem::GetSVGID(const TSVGOutput& out) const {
     if (!out.attrID)
         return {};
-    std::string text = " id=\"";
-    AppendUtf8(text, ReplaceAll(fID, u" ", u""));
-    return text += "\" ";
+    SvgElement id = out.Element();
+    (id << " id=\"").Name(ReplaceAll(fID, u" ", u"")) << "\" ";
+    return id.Take();
 }
 
 void TVGRBaseItem::WritePoints(SvgElement& element, int first) const {
