@@ -74,6 +74,7 @@ void CheckNumbers(const TJsonObject& root) {
 HostLabel::HostLabel(TComponent* owner) : HostLabel(owner, PangoText::ThisThread()) {}
 
 HostLabel::HostLabel(TComponent* owner, const TextMeasurer& measurer) : TVGRBaseLabel(owner), fMeasurer(measurer) {
+    SetExactJson(true);
     Loaded();
 }
 

@@ -5,6 +5,7 @@
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRCmd.h>
 #include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/Units.h>
 
 #include <algorithm>
 
@@ -44,20 +45,26 @@ float TVGRBaseItem::GetPointMMX(int index) const { return FromBase(GetPoint(inde
 float TVGRBaseItem::GetPointMMY(int index) const { return FromBase(GetPoint(index).bY); }
 
 void TVGRBaseItem::SetPointX(int index, float value) {
-    if (!InRange(index) || At(index).GetX(fOwner.GetUnits()) == value)
-        return;
-    fOwner.AddState(lsUpdate);
-    TVGRPosCmd::AddCommand(*this, index, ptX);
-    At(index).SetX(value, fOwner.GetUnits());
-    PointStored();
+    if (InRange(index) && GetPointX(index) != value)
+        StoreX(index, SetValue(value, fOwner.GetUnits()));
 }
 
 void TVGRBaseItem::SetPointY(int index, float value) {
-    if (!InRange(index) || At(index).GetY(fOwner.GetUnits()) == value)
-        return;
+    if (InRange(index) && GetPointY(index) != value)
+        StoreY(index, SetValue(value, fOwner.GetUnits()));
+}
+
+void TVGRBaseItem::StoreX(int index, std::int64_t base) {
+    fOwner.AddState(lsUpdate);
+    TVGRPosCmd::AddCommand(*this, index, ptX);
+    At(index).bX = base;
+    PointStored();
+}
+
+void TVGRBaseItem::StoreY(int index, std::int64_t base) {
     fOwner.AddState(lsUpdate);
     TVGRPosCmd::AddCommand(*this, index, ptY);
-    At(index).SetY(value, fOwner.GetUnits());
+    At(index).bY = base;
     PointStored();
 }
 

@@ -14,6 +14,7 @@
 #include <vagrel/persistence/TJsonObject.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace vagrel {
 
@@ -54,8 +55,8 @@ std::unique_ptr<TJsonObject> TVGRBaseItem::WriteJson() const {
     TJsonArray& points = json->AddArray(u"Points");
     for (int i = 1; i <= int(fPoints.size()); ++i) {
         TJsonObject& point = points.AddObject();
-        point.SetFloat(u"X", RoundTo3(GetPointX(i)));
-        point.SetFloat(u"Y", RoundTo3(GetPointY(i)));
+        point.SetFloat(u"X", CoordinateOf(At(i).bX));
+        point.SetFloat(u"Y", CoordinateOf(At(i).bY));
     }
     WriteKeys(*json);
     return json;
@@ -83,8 +84,15 @@ void TVGRBaseItem::ReadJson(std::int32_t version, TJsonObject& json) {
         fPoints.resize(std::size_t(points.Count()));
     for (int i = 1; i <= points.Count() && InRange(i); ++i) {
         TJsonObject& point = points.GetObject(i - 1);
-        SetPointX(i, float(point.GetFloat(u"X")));
-        SetPointY(i, float(point.GetFloat(u"Y")));
+        const double x = point.GetFloat(u"X"), y = point.GetFloat(u"Y");
+        if (IsExact(x))
+            StoreX(i, Round(x * double(UnitFactor(fOwner.GetUnits()))));
+        else
+            SetPointX(i, float(x));
+        if (IsExact(y))
+            StoreY(i, Round(y * double(UnitFactor(fOwner.GetUnits()))));
+        else
+            SetPointY(i, float(y));
     }
     ReadKeys(version, json);
     UpdateBounds();
@@ -143,6 +151,15 @@ void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLRea
         BaseMove(fOwner.BaseMoveInc(), fOwner.BaseMoveInc(), 0, 0, moAll, true);
         fOwner.AddToSelection(*this, false);
     }
+}
+
+bool TVGRBaseItem::IsExact(double coordinate) const {
+    return fOwner.GetExactJson() && std::fabs(coordinate) >= FirstInexact;
+}
+
+double TVGRBaseItem::CoordinateOf(std::int64_t base) const {
+    const double exact = double(base) / double(UnitFactor(fOwner.GetUnits()));
+    return RoundTo3(IsExact(exact) ? exact : double(GetValue(base, fOwner.GetUnits())));
 }
 
 std::string TVGRBaseItem::GetSVGID(const TSVGOutput& out) const {
