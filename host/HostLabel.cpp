@@ -20,16 +20,10 @@ namespace vagrel {
 
 namespace {
 
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-
-std::string_view WithoutMark(std::string_view bytes) {
-    return bytes.starts_with(ByteOrderMark) ? bytes.substr(ByteOrderMark.size()) : bytes;
-}
-
-// A document is JSON when its first character is an opening brace.
+// A document is JSON when its first character is an opening brace. What a byte order mark has, and the zeros that
+// UTF-16 puts beside a character, are none.
 bool IsJson(std::string_view bytes) {
-    bytes = WithoutMark(bytes);
-    const std::size_t first = bytes.find_first_not_of(" \t\r\n");
+    const std::size_t first = bytes.find_first_not_of(std::string_view(" \t\r\n\xEF\xBB\xBF\xFE\xFF\0", 10));
     if (first == std::string_view::npos)
         throw EVagrel(u"The file is empty");
     return bytes[first] == '{';
@@ -45,28 +39,34 @@ void CheckBinary(std::string_view bytes) {
 // No length, whatever its unit, leaves the 64 bits of base units below this.
 constexpr double LargestNumber = 9.3e15;
 
-// The place of a number that nothing in a document can hold, for which the readers would take the nearest that fits.
-std::optional<std::string> FindAbsurd(const TJsonDataValue& value) {
+struct TAbsurd {
+    std::string place;
+    const TJsonDataValue& value;
+};
+
+// A number that nothing in a document can hold, for which the readers would take the nearest that fits.
+std::optional<TAbsurd> FindAbsurd(const TJsonDataValue& value) {
     const TJsonDataType typ = value.GetTyp();
     if (typ == jdtULong || (typ == jdtFloat && !(std::fabs(value.GetFloatValue()) < LargestNumber)))
-        return "";
+        return TAbsurd{"", value};
     if (typ == jdtObject) {
         for (auto [name, member] : *value.GetObjectValue())
-            if (const auto place = FindAbsurd(member))
-                return "." + ToUtf8(name) + *place;
+            if (const auto found = FindAbsurd(member))
+                return TAbsurd{"." + ToUtf8(name) + found->place, found->value};
     } else if (typ == jdtArray) {
         const TJsonArray& array = *value.GetArrayValue();
         for (int i = 0; i < array.Count(); ++i)
-            if (const auto place = FindAbsurd(array.ItemAt(i)))
-                return "[" + std::to_string(i) + "]" + *place;
+            if (const auto found = FindAbsurd(array.ItemAt(i)))
+                return TAbsurd{"[" + std::to_string(i) + "]" + found->place, found->value};
     }
     return {};
 }
 
 void CheckNumbers(const TJsonObject& root) {
     for (auto [name, value] : root)
-        if (const auto place = FindAbsurd(value))
-            throw EOutOfRange(ToUtf8(name) + *place + ": the number is out of range");
+        if (const auto found = FindAbsurd(value))
+            throw Refusal<EOutOfRange>(ToUtf8(name) + found->place, ToUtf8(found->value.GetStringValue()),
+                                       "numbers below 9.3E15");
 }
 
 } // namespace
@@ -75,6 +75,7 @@ HostLabel::HostLabel(TComponent* owner) : HostLabel(owner, PangoText::ThisThread
 
 HostLabel::HostLabel(TComponent* owner, const TextMeasurer& measurer) : TVGRBaseLabel(owner), fMeasurer(measurer) {
     SetFreshCrossings(true);
+    SetExactJson(true);
     Loaded();
 }
 
@@ -131,7 +132,7 @@ void HostLabel::ReadDocument(TJsonObject& root) {
 void HostLabel::ReadDocument(std::string_view bytes) {
     if (IsJson(bytes)) {
         TJsonObject root;
-        root.ParseUtf8(WithoutMark(bytes));
+        root.ParseBytes(bytes);
         ReadDocument(root);
     } else {
         CheckBinary(bytes);

@@ -26,7 +26,7 @@ std::int64_t SessionArguments::Long(std::u16string_view name, std::optional<std:
 std::int32_t SessionArguments::Int(std::u16string_view name, std::optional<std::int32_t> fallback) const {
     const std::int64_t value = Long(name, fallback);
     if (value != std::int32_t(value))
-        throw EConvertError(std::u16string(name) + u": out of range");
+        throw Refusal<EConvertError>(ToUtf8(name), std::to_string(value), "whole numbers of 32 bits");
     return std::int32_t(value);
 }
 

@@ -132,11 +132,8 @@ void Source::ConnectCsv(const TSourceArguments& arguments) {
 
 void Source::ConnectJson(const TSourceArguments& arguments) {
     AtPlace(arguments.json, [&] {
-        std::string text = ReadBytes(arguments.json);
-        if (text.starts_with(Utf8Mark))
-            text.erase(0, Utf8Mark.size());
         TVGRData& data = fLabel.GetData();
-        data.SetJson(FromUtf8(text));
+        data.SetJson(TJsonBaseObject::DecodeBytes(ReadBytes(arguments.json)));
         std::u16string name = FromUtf8(arguments.source);
         std::string names;
         for (const TVGRDatasetItem& source : data.GetDatasets())

@@ -66,6 +66,28 @@ run 2 '.vgr' convert plan.json plan.txt
 head -c 100 plan.vgr >short.vgr
 run 1 'short.vgr: unexpected end' info short.vgr
 
+iconv -f UTF-8 -t UTF-16 plan.json >wide.json
+run 0 '' convert wide.json back.json
+cmp -s plan.json back.json || fail 'a document in UTF-16 was not read as the same'
+
+# What stands on a document: counts, bounds, identifiers that are no XML.
+cat >items.json <<'END'
+{"Version": 3200, "EditorMode": 2, "Measures": {"LabelWidth": 100, "LabelHeight": 100, "Rows": 1, "Columns": 1, "DrawScale": 1},
+ "Items": [{"Type": 2, "ID": "a&\"<>b", "InID": 1, "Options": {"Visible": true, "Export": true},
+            "Points": [{"X": 20000.125, "Y": 5}, {"X": 10, "Y": 20.5}]},
+           {"Type": 8, "InID": 2, "Points": [{"X": 30, "Y": 30}, {"X": 40, "Y": 40}]}]}
+END
+run 0 '' info items.json
+grep -qF 'Line: 1' out && grep -qF 'bounds   (10, 5) to (20000.125, 40) mm' out || fail "info: $(cat out)"
+run 0 '' info items.json --json
+grep -qF '"Items": 2' out || fail "info --json does not count: $(cat out)"
+run 0 '' convert items.json items.vgr
+run 0 '' convert items.vgr back.json
+grep -qF '"X": 20000.125' back.json || fail 'a point far out moved'
+run 0 '' render items.json --ids -o ids.svg
+grep -qF ' id="a&amp;&quot;&lt;&gt;b" ' ids.svg || fail "render --ids: $(cat ids.svg)"
+if command -v xmllint >/dev/null; then xmllint --noout ids.svg || fail 'an identifier broke the SVG'; fi
+
 # Barcodes.
 run 0 '' barcode --list
 [ "$(wc -l <out)" -eq 26 ] || fail 'barcode --list does not name 26 kinds'

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Symbols read by a decoder that nobody here wrote.
 #define ZX_USE_UTF8
 #include "ReadBack.h"
 

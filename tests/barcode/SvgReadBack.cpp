@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Symbols as they stand in SVG, rasterised and read.
 #define ZX_USE_UTF8
 #include "SvgReadBack.h"
 

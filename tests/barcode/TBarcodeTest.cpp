@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Validity, preparation, check digits and measures of linear barcodes.
+#include "Raster.h"
+
 #include <vagrel/barcode/TBarcode.h>
 
 #include <gmock/gmock.h>
@@ -116,6 +118,10 @@ TEST(TBarcode, PairsWherePairsPay) {
     EXPECT_EQ(length("abc123456", btCODE128AUTO), 1 + 3 + 1 + 3 + 1U) << "one code C for six digits";
     EXPECT_EQ(length("abc12d", btCODE128AUTO), 1 + 6 + 1U) << "two digits in the middle do not pay";
     EXPECT_EQ(length("abc12", btCODE128AUTO), 1 + 3 + 1 + 1 + 1U) << "two at the end do";
+    EXPECT_EQ(length("abc123", btCODE128AUTO), 1 + 6 + 1U) << "three do not";
+    EXPECT_EQ(length("abc1234", btCODE128AUTO), 1 + 3 + 1 + 2 + 1U) << "four do";
+    for (const char* code : {"abc12", "abc12345"}) // as long either way
+        EXPECT_NE(TEncoded(code, btCODE128AUTO, false).pattern, TEncoded(code, btCODE128B, false).pattern) << code;
     EXPECT_EQ(length("abc12345d", btCODE128AUTO), 1 + 9 + 1U) << "five in the middle do not";
     EXPECT_EQ(length("1234ab", btEAN128AUTO), 1 + 1 + 2 + 1 + 2 + 1U) << "FNC1, two pairs, code B";
     EXPECT_EQ(TBarcode::FillBarPattern("a\xC9", btEAN128AUTO, at128be, false), "");

@@ -41,6 +41,9 @@ TEST(Dates, FollowPatterns) {
     };
     for (const auto& [pattern, text] : rows)
         EXPECT_EQ(FormatDateTime(pattern, time), text) << ToUtf8(pattern);
+    const std::pair<int, const char16_t*> hours[] = {{0, u"12 AM"}, {11, u"11 AM"}, {12, u"12 PM"}, {13, u"1 PM"}};
+    for (const auto& [hour, text] : hours)
+        EXPECT_EQ(FormatDateTime(u"h AM/PM", DateTimeOf({2026, 3, 7, hour, 0, 0, 0})), text);
 }
 
 } // namespace

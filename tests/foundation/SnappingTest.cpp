@@ -82,6 +82,15 @@ TEST(BoxPairs, AreThoseOfALoopOverAll) {
     }
 }
 
+TEST(BoxPairs, ThoseThatTouchMeet) {
+    std::vector<TKSLRect> tiles;
+    for (std::int64_t i = 0; i < 400; ++i)
+        tiles.emplace_back(i % 20 * 10, i / 20 * 10, i % 20 * 10 + 10, i / 20 * 10 + 10);
+    int calls = 0;
+    ForEachBoxPair(tiles, [&](std::uint32_t, std::uint32_t) { return ++calls, true; });
+    EXPECT_EQ(calls, 2 * 20 * 19 + 2 * 19 * 19) << "at sides and at corners";
+}
+
 TEST(BoxPairs, EndWhereTheyAreTold) {
     const std::vector<TKSLRect> boxes(100, TKSLRect{INT64_MIN, INT64_MIN, INT64_MAX, INT64_MAX});
     int calls = 0;

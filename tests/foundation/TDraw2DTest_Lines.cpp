@@ -161,7 +161,7 @@ TEST(TDraw2DExtend, ToFigures) {
     const auto toChain = D::ExtendLineToPolyline;
     const auto toArc = D::ExtendLineToArc;
     const auto trim = D::TrimLineAtArc;
-    const TKSLPtoA chain{{200, -50}, {200, 50}, {0, 50}};
+    const TKSLPtoA chain{{200, -50}, {200, 50}, {0, 50}}, hook{{200, 10}, {200, 50}, {20, 50}};
     const struct {
         const char* what;
         Answer actual, expected;
@@ -169,6 +169,7 @@ TEST(TDraw2DExtend, ToFigures) {
         {"line", Ask(toLine, 100, -9, 100, 9, 0, 0, 50, 0, 50, 0), {1, 0, 0, 100, 0}},
         {"line, behind", Ask(toLine, -100, -9, -100, 9, 0, 0, 50, 0, 50, 0), {1, 50, 0, -100, 0}},
         {"line, reached", Ask(toLine, 20, -9, 20, 9, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
+        {"line, just reached", Ask(toLine, 50, -9, 50, 9, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
         {"line, parallel", Ask(toLine, 0, 9, 9, 9, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
         {"circle, from inside", Ask(toCircle, 0, 0, 50, 0, 0, 10, 0, 0, 0), {1, -50, 0, 10, 0}},
         {"circle, missed", Ask(toCircle, 200, 51, 50, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
@@ -177,12 +178,22 @@ TEST(TDraw2DExtend, ToFigures) {
         {"ellipse, flat", Ask(toEllipse, 200, 0, 100, 0, 0, 30, 50, 30, 50, 30), {0, 0, 30, 50, 30}},
         {"rectangle", Ask(toRectangle, 100, -50, 200, 50, 0, 0, 50, 10, 50, 10), {1, 0, 0, 100, 20}},
         {"rectangle, from inside", Ask(toRectangle, 0, 0, 90, 90, 40, 40, 50, 40, 40, 40), {1, 0, 40, 50, 40}},
+        {"rectangle, its corner", Ask(toRectangle, 100, -50, 200, 50, 0, 0, 50, -25, 50, -25), {1, 0, 0, 100, -50}},
+        {"polyline, its first point", Ask(toChain, hook, 100, 10, 150, 10, 150, 10, false), {1, 100, 10, 200, 10}},
+        {"polyline, its last point", Ask(toChain, hook, 20, 10, 20, 20, 20, 20, false), {1, 20, 10, 20, 50}},
         {"polyline", Ask(toChain, chain, 10, 20, 50, 20, 50, 20, false), {1, 10, 20, 200, 20}},
         {"polyline, open side", Ask(toChain, chain, 50, 20, 90, 20, 50, 20, false), {0, 50, 20, 90, 20}},
         {"polyline, closing side", Ask(toChain, chain, 150, 20, 170, 20, 150, 20, true), {1, 60, 20, 170, 20}},
         {"polyline, at coordinate 0", Ask(toChain, chain, 10, 0, 50, 0, 50, 0, false), {0, 10, 0, 50, 0}},
         {"arc", Ask(toArc, 300, -100, 200, 0, 300, 100, 0, 0, 50, 0, 50, 0), {1, 0, 0, 200, 0}},
         {"arc, its open side", Ask(toArc, 300, -100, 400, 0, 300, 100, 0, 0, 50, 0, 50, 0), {0, 0, 0, 50, 0}},
+        {"arc, its last point",
+         Ask(toArc, 300, -100, 200, 0, 300, 100, 300, 300, 300, 250, 300, 250),
+         {1, 300, 300, 300, 100}},
+        {"arc, its first point",
+         Ask(toArc, 300, -100, 200, 0, 300, 100, 300, -300, 300, -250, 300, -250),
+         {1, 300, -300, 300, -100}},
+        {"trim, a tie", Ask(trim, 220, -60, 400, 0, 220, 60, 172, 80, 428, 80, 300, 80), {1, 172, 80, 360, 80}},
         {"trim", Ask(trim, 300, -100, 200, 0, 300, 100, 0, 0, 350, 0, 349, 0), {1, 0, 0, 200, 0}},
         {"trim, nearer of two", Ask(trim, 220, -60, 400, 0, 220, 60, 0, 80, 450, 80, 10, 80), {1, 240, 80, 450, 80}},
         {"trim, no crossing", Ask(trim, 300, -100, 200, 0, 300, 100, 0, 0, 150, 0, 0, 0), {0, 0, 0, 150, 0}},

@@ -5,12 +5,15 @@
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
+#include <vagrel/foundation/Units.h>
+#include <vagrel/persistence/TJsonObject.h>
 #include <vagrel/platform/Files.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <limits>
 
 namespace vagrel::test {
 namespace {
@@ -59,8 +62,10 @@ TEST_F(HostLabelTest, BadFilesAreRefusedWithTheirPlace) {
         {"unknown type", "{\"Items\": [{\"Type\": 1}, {\"Type\": -7}]}", "Items[1]: Unknown item type -7"},
         {"type to come", "{\"Items\": [{\"Type\": 24}]}", "Items[0]: Items of type 24 (Symbol) are not available yet"},
         {"huge coordinate", "{\"Items\": [{\"Type\": 1, \"Points\": [{\"X\": 1e308}]}]}", "Items[0].Points[0].X: "},
-        {"2^63", "{\"Measures\": {\"LabelWidth\": 9223372036854775808}}", "Measures.LabelWidth: "},
-        {"huge number of an item", "{\"Items\": [{\"Type\": 1, \"InID\": 2147483647}]}", "Items[0]: InID"},
+        {"2^63", "{\"Measures\": {\"LabelWidth\": 9223372036854775808}}",
+         "Measures.LabelWidth: 9223372036854775808 is not allowed, only numbers below 9.3E15"},
+        {"huge number of an item", "{\"Items\": [{\"Type\": 1, \"InID\": 2147483647}]}",
+         "Items[0]: InID: 2147483647 is not allowed, only numbers up to 1073741824"},
         {"negative scale", "{\"EditorMode\": 2, \"Measures\": {\"DrawScale\": -1}}", "Measures: Drawing scale"},
         {"bad data", "{\"Data\": {\"SaveJson\": true, \"DataJson\": \"{\\\"a\\\": [}\"}}", "Data: DataJson: "},
         {"bad data and bad item", "{\"Data\": {\"SaveJson\": true, \"DataJson\": \"none\"}, \"Items\": [5]}",
@@ -88,6 +93,52 @@ TEST_F(HostLabelTest, BadFilesAreRefusedWithTheirPlace) {
         ASSERT_EQ(full.GetSelection(1), &line) << "not one that looks the same";
     }
     EXPECT_TRUE(full.GetModified());
+}
+
+TEST_F(HostLabelTest, EveryEncodingOfJsonOpens) {
+    TestHost label(emDrawing, unM, 50);
+    label.CreateLine(1, 2, 3, 4).SetID(u"é😀");
+    for (const TJsonEncoding encoding : {jeUtf8, jeUtf8Bom, jeUtf16LE, jeUtf16BE}) {
+        label.GetJson()->SaveToFile(Path("in.json"), false, encoding);
+        TestHost other;
+        other.LoadFromFile(FromUtf8(Path("in.json")));
+        EXPECT_EQ(JsonOf(other), JsonOf(label)) << encoding;
+    }
+    TestHost other;
+    using namespace std::string_literals;
+    EXPECT_THAT(Refusal(other, "\xFF\xFE{\0\0\xD8"s), HasSubstr("in UTF-16 text (1, 2)"));
+    EXPECT_THAT(Refusal(other, "\xFE\xFF\0[\0]"s), HasSubstr("Not a document"));
+    EXPECT_THAT(Refusal(other, "\xFF\xFE"s), HasSubstr("empty"));
+}
+
+TEST_F(HostLabelTest, ANumberAtTheEndIsRefusedInFilesAndSurvivesUndo) {
+    TestHost label, other;
+    TVGRBaseItem& line = label.CreateLine(1, 2, 3, 4);
+    line.SetInID(std::numeric_limits<std::int32_t>::max());
+    const std::string bytes = label.ToBinary();
+    EXPECT_THAT(Refusal(other, bytes), HasSubstr("Items[0]: InID: 2147483647"));
+    label.AddToSelection(line, true);
+    label.DeleteSelection();
+    ASSERT_EQ(label.ItemsCount(), 0);
+    label.Undo();
+    ASSERT_EQ(label.ItemsCount(), 1);
+    EXPECT_EQ(label.ToBinary(), bytes);
+}
+
+TEST_F(HostLabelTest, PointsFarOutStayInJsonWhereItIsAsked) {
+    // 2^14 mm is where single precision leaves the third decimal.
+    for (const std::int64_t x : std::initializer_list<std::int64_t>{16383999, 16384001, -20000123, 2147483647123}) {
+        for (const bool exact : {true, false}) {
+            TestHost label, other;
+            label.SetExactJson(exact), other.SetExactJson(exact);
+            label.CreateLine(0, 0, x, -x);
+            other.ReadDocument(*label.GetJson());
+            const TKSLPto read = other.GetItem(1)->GetPoint(2), through{SetValue(GetValue(x, unMM), unMM), 0};
+            EXPECT_EQ(read.bX, exact ? x : through.bX) << x;
+            EXPECT_EQ(read.bY, exact ? -x : -through.bX) << x;
+        }
+    }
+    EXPECT_TRUE(HostLabel().GetExactJson());
 }
 
 TEST_F(HostLabelTest, FilesOutOfReach) {

@@ -107,6 +107,21 @@ TEST(Lines, SettersAskForPaint) {
     }
 }
 
+TEST(Lines, ExtentHoldsPlacesAtMinusOne) {
+    TestHost label;
+    TVGRBaseItem& line = label.CreateLine(49, 1000, 20000, 49);
+    line.SetPenWidth(0.1f);
+    TKSLExtent extent, whole;
+    line.CheckFit(extent);
+    EXPECT_TRUE(extent.minX == -1 && extent.maxX == 20050 && extent.minY == -1 && extent.maxY == 1050);
+    label.CheckFit(whole);
+    EXPECT_TRUE(whole.minX == 0 && whole.maxX == 20050 && whole.minY == 0 && whole.maxY == 1050);
+    TKSLExtent given;
+    given.minX = 40, given.maxX = 30000;
+    line.CheckFit(given);
+    EXPECT_TRUE(given.minX == -1 && given.maxX == 30000 && given.minY == -1 && given.maxY == 1050);
+}
+
 TEST(Lines, SvgFollowsTheTemplates) {
     TestHost label(emDrawing, unMM, 10);
     TVGRBaseItem& line = label.CreateLine(10000, 20000, 100000, 205000);

@@ -164,6 +164,8 @@ TEST(TPathAnimator, WaypointsAreCrossedInTheOrderOfTheWay) {
     EXPECT_THAT(path.GetCrossedWaypoints(0.1, 0.25), ElementsAre(1));
     EXPECT_THAT(path.GetCrossedWaypoints(0.25, 0.25), IsEmpty());
     EXPECT_THAT(path.GetCrossedWaypoints(0.75, 0.25), ElementsAre(1));
+    EXPECT_THAT(path.GetCrossedWaypoints(0.25, 0.75), ElementsAre(2)) << "the one left was told on arrival";
+    EXPECT_THAT(path.GetCrossedWaypoints(0.25, 0), ElementsAre(0)) << "backwards, too";
     path.SetEasing(peEaseIn);
     EXPECT_THAT(path.GetCrossedWaypoints(0.8, 0.9), ElementsAre(2)) << "arguments are progress in time";
     EXPECT_THAT(path.GetCrossedWaypoints(0.2, 0.4), IsEmpty());

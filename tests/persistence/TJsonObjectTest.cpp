@@ -195,6 +195,7 @@ TEST_F(TJsonTest, WalksPaths) {
         {u"a.", "Invalid JSON path \"a.\""},
         {u"a.b[-1]", "Invalid JSON path \"a.b[-1]\""},
         {u"a.b[x]", "Invalid JSON path \"a.b[x]\""},
+        {u"a.b[1x]", "Invalid JSON path \"a.b[1x]\""},
         {u"a.b[]", "Invalid JSON path \"a.b[]\""},
         {u"a.b[1", "Invalid JSON path \"a.b[1\""},
         {u"a.b[2]c", "Invalid JSON path \"a.b[2]c\""},
@@ -294,6 +295,36 @@ TEST_F(TJsonTest, ReadsAndWritesEncodings) {
         EXPECT_EQ(MessageOf([&] { object.LoadFromStream(stream); }), "File encoding is not supported");
     }
     EXPECT_THROW(object.LoadFromFile("/nonexistent/file.json"), EStreamError);
+}
+
+TEST_F(TJsonTest, BrokenUtf16IsToldWithItsPlace) {
+    const auto bytes = [](std::u16string_view text, bool bigEndian) {
+        std::string all = bigEndian ? "\xFE\xFF" : "\xFF\xFE";
+        for (const char16_t unit : text)
+            (all += char(bigEndian ? unit >> 8 : unit)) += char(bigEndian ? unit : unit >> 8);
+        return all;
+    };
+    const std::u16string high(1, char16_t(0xD83D)), low(1, char16_t(0xDE00));
+    const std::pair<std::u16string, const char*> rows[] = {
+        {u"{\"a\":\n\"" + high + low + high + u"\"}", "Half a surrogate pair in UTF-16 text (2, 4)"},
+        {u"{\"" + low + high + u"\":1}", "Half a surrogate pair in UTF-16 text (1, 3)"},
+        {u"{\"" + high, "Half a surrogate pair in UTF-16 text (1, 3)"},
+        {u"{\"" + high + low, "String not closed (1, 2)"},
+        {u"{", "Unexpected end of file where name was expected (1, 2)"},
+        {u" ", ""},
+    };
+    for (const bool bigEndian : {false, true}) {
+        for (const auto& [text, told] : rows)
+            EXPECT_EQ(MessageOf([&, &text = text] { object.ParseBytes(bytes(text, bigEndian)); }), told);
+        EXPECT_EQ(MessageOf([&] { object.ParseBytes(bytes(u"{}", bigEndian) + "x"); }),
+                  "UTF-16 text has an odd number of bytes (1, 3)");
+        // What is broken in memory is written so that it can be read.
+        object.SetString(u"a", high);
+        std::stringstream stream;
+        object.SaveToStream(stream, true, bigEndian ? jeUtf16BE : jeUtf16LE);
+        object.LoadFromStream(stream);
+        EXPECT_EQ(object.GetString(u"a"), u"\uFFFD");
+    }
 }
 
 TEST_F(TJsonTest, DeepTreesCopyWriteAndGo) {

@@ -73,6 +73,7 @@ TEST(TJsonReader, RefusesAndTellsWhere) {
         {"[1e+]", "Expected digit but found \"]\" (1, 5)"},
         {"[0x1]", "Expected \",\" but found \"x1\" (1, 3)"},
         {"[1e999]", "Number out of range (1, 2)"},
+        {"[18446744073709551616e999]", "Number out of range (1, 2)"}, // 2^64, whose low bits are zero
         {"[NaN]", "Expected value but found \"NaN\" (1, 2)"},
         {"[-Infinity]", "Expected digit but found \"Infinity\" (1, 3)"},
         {"[True]", "Expected value but found \"True\" (1, 2)"},
@@ -120,7 +121,8 @@ TEST(TJsonReader, PicksTheNarrowestNumberType) {
 TEST(TJsonReader, RoundsEveryFloatRight) {
     for (const char* text : {"0.1", "10.123", "123456789.123456789", "9007199254740993.0", "1e22", "1e23",
                              "4.9406564584124654e-324", "2.2250738585072011e-308", "1.7976931348623157e308",
-                             "0.000000000000000000000000000000000000012345678901234567890", "179769313486231570e291"}) {
+                             "0.000000000000000000000000000000000000012345678901234567890", "179769313486231570e291",
+                             "18446744073709551617e0", "1844674407370955162.1"}) {
         TJsonArray array;
         array.ParseUtf8(std::string("[").append(text).append("]"));
         EXPECT_EQ(array.GetFloat(0), std::strtod(text, nullptr)) << text;

@@ -223,7 +223,8 @@ std::vector<TSetter> SettersOf(TVGRBaseItem& item) {
 
 bool IsWellFormed(const std::string& svg) {
     // One by one: a long document is too much for one expression.
-    static const std::regex element(R"(<([a-z]+)(\s+[\w:-]+="[^"<]*")*\s*(/>|>[^<]*</\1>))");
+    static const std::regex element(
+        R"(<([a-z]+)(\s+[\w:-]+="([^"<&\x01-\x1F]|&[a-z]+;)*")*\s*(/>|>([^<&]|&[a-z]+;)*</\1>))");
     const std::size_t start = svg.find(">\n", svg.find("<svg "));
     if (start == svg.npos || !svg.ends_with("\n</svg>\n"))
         return false;

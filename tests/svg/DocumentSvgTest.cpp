@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 // The frame of an SVG document, and what gets into it.
+#include <tests/support/ItemSuite.h>
 #include <tests/support/TestHost.h>
 
 #include <host/HostItem.h>
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/items/figures/TVGRBaseSector.h>
 #include <vagrel/items/lines/TVGRBaseLine.h>
+#include <vagrel/items/text/TVGRBaseText.h>
 #include <vagrel/persistence/TJsonObject.h>
 #include <vagrel/platform/Files.h>
 
@@ -15,7 +18,10 @@
 namespace vagrel::test {
 namespace {
 
+using testing::AllOf;
+using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 
 TEST(DocumentSvg, FrameFitsTheNumbersOfTheMode) {
     TestHost label(emDrawing, unINCH, 50);
@@ -76,6 +82,30 @@ TEST(DocumentSvg, ItemsComeInPaintOrderWhenTheyShow) {
     EXPECT_EQ(order(), "ba");
     back.SetOptions({lopExport});
     EXPECT_EQ(order(), "b");
+}
+
+TEST(DocumentSvg, IsWellFormedWhateverTheNames) {
+    TestHost label;
+    TVGRBaseItem& line = label.CreateLine(0, 0, 1000, 1000);
+    line.SetFixedID(u"a&\"<>b\x01\uFFFF");
+    auto& text = dynamic_cast<TVGRBaseText&>(label.CreateText(1000, 1000));
+    text.SetText(u"t\x02<");
+    text.SetFontName(u"A&\"B");
+    auto& slice = dynamic_cast<TVGRBaseSector&>(label.CreateSector({20000, 20000}, 5000, 0, 359.99f));
+    EXPECT_TRUE(IsWellFormed(label.SVG(svCurrentUnit, 1, true))) << label.SVG(svCurrentUnit, 1, true);
+    for (const std::string& svg : {label.SVG(svCurrentUnit, 1, true), label.SheetSVG(svCurrentUnit, 1, true, false)}) {
+        EXPECT_THAT(svg, HasSubstr(" id=\"a&amp;&quot;&lt;&gt;b\" "));
+        EXPECT_THAT(svg, HasSubstr(" font-family=\"A&amp;&quot;B\""));
+        EXPECT_THAT(svg, HasSubstr(">t&lt;</text>"));
+        EXPECT_THAT(svg, AllOf(HasSubstr("<circle"), Not(HasSubstr("<path"))));
+    }
+    TSVGOutput out{svCurrentUnit, 1, true, false, {}, {}};
+    line.WriteSVG(out), text.WriteSVG(out), slice.WriteSVG(out);
+    EXPECT_THAT(out.svg,
+                ElementsAre(HasSubstr(" id=\"a&\"<>b\x01\uFFFF\" "), HasSubstr("\"A&\"B\""), HasSubstr("<path")))
+        << "an item alone writes what is stored";
+    slice.SetSweepAngle(180);
+    EXPECT_THAT(label.SVG(svCurrentUnit, 1, true), HasSubstr("<path"));
 }
 
 TEST(DocumentSvg, ARealDrawingSurvivesItsFile) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Where the bars and the digits of a linear code stand.
 #include <vagrel/barcode/BarLayout.h>
 
 #include <vagrel/foundation/Rounding.h>

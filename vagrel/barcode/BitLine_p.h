@@ -91,37 +91,4 @@ struct TBitLine {
     }
 };
 
-/// Cells that are equal to the next one inside.
-template <int Words>
-TBitLine<Words> SameAsNext(const TBitLine<Words>& line, const TBitLine<Words>& inside) {
-    return ~(line ^ (line >> 1)) & (inside >> 1);
-}
-
-/// Where four cells in a row are set.
-template <int Words>
-TBitLine<Words> Fours(const TBitLine<Words>& line) {
-    const TBitLine<Words> twos = line & (line >> 1);
-    return twos & (twos >> 2);
-}
-
-/// Runs of 5 equal cells score 3 and each further cell 1; 1011101 with four light cells before or behind scores 40.
-template <int Words>
-int LinePenalty(const TBitLine<Words>& line, const TBitLine<Words>& inside) {
-    // A run of n is n - 4 places where five cells are equal, and one start of such places.
-    const TBitLine<Words> fives = Fours(SameAsNext(line, inside));
-    const TBitLine<Words> starts = fives & ~(fives << 1);
-    const TBitLine<Words> light = ~line & inside;
-    const TBitLine<Words> quiet = Fours(light);
-    const TBitLine<Words> finders = line & (light >> 1) & (line >> 2) & (line >> 3) & (line >> 4) & (light >> 5) &
-                                    (line >> 6) & ((quiet >> 7) | (quiet << 4));
-    return fives.Count() + 2 * starts.Count() + (finders.Any() ? 40 * finders.Count() : 0);
-}
-
-/// Each square of 2 by 2 equal cells in two neighbouring lines scores 3.
-template <int Words>
-int BlockPenalty(const TBitLine<Words>& line, const TBitLine<Words>& next, const TBitLine<Words>& inside) {
-    const TBitLine<Words> equal = ~(line ^ next);
-    return 3 * (equal & (equal >> 1) & SameAsNext(line, inside)).Count();
-}
-
 } // namespace vagrel

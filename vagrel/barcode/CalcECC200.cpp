@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Data Matrix symbols from text: the size that is chosen, and the modules (ISO/IEC 16022).
 #include <vagrel/barcode/CalcECC200.h>
 #include <vagrel/barcode/ECC200.h>
 #include <vagrel/barcode/TReedSolomonEncoder.h>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The rows of a PDF417 symbol: start, row facts, codewords, stop (ISO/IEC 15438).
 #include <vagrel/barcode/ModuleBytes_p.h>
 #include <vagrel/barcode/Pdf417Modules.h>
 #include <vagrel/barcode/Pdf417Tables_p.h>

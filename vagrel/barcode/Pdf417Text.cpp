@@ -22,15 +22,16 @@ std::optional<int> ReadDigits(std::string_view text, std::size_t count, int base
 TTextToken Character(int length, int code) { return {length, TextCompactionTable[std::size_t(code % 256)], 0, {}}; }
 
 // An extended channel interpretation by its number.
-TTextToken Label(int number) {
-    TTextToken token{8, {}, 2, {927, number}};
-    if (number >= 811'800)
-        token.RawCount = 0;
-    else if (number >= 810'900)
-        token.Raw = {925, number - 810'900};
-    else if (number >= 900)
-        token = {8, {}, 3, {926, number / 900 - 1, number % 900}};
-    return token;
+TTextToken Interpretation(int number) {
+    constexpr int length = 8; // of "\\g" and six digits
+    constexpr int words = 900, firstUser = 900 * words + words, end = firstUser + words;
+    if (number < words)
+        return {length, {}, 2, {EciCharacterSet, number}};
+    if (number < firstUser)
+        return {length, {}, 3, {EciGeneral, number / words - 1, number % words}};
+    if (number < end)
+        return {length, {}, 2, {EciUser, number - firstUser}};
+    return {length, {}, 0, {}};
 }
 
 } // namespace
@@ -56,7 +57,7 @@ TTextToken ReadTextEscape(std::string_view text) {
     case 'g':
     case 'G':
         if (const auto number = ReadDigits(rest, 6, 10))
-            return Label(*number);
+            return Interpretation(*number);
         return plain;
     default:
         if (const auto code = ReadDigits(text.substr(1), 3, 10))

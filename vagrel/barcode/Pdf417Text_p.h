@@ -9,6 +9,13 @@
 
 namespace vagrel::detail {
 
+/// Codewords that say what the ones behind them are.
+inline constexpr int LatchText = 900;
+inline constexpr int LatchNumeric = 902;
+inline constexpr int EciUser = 925;         ///< and one word: an interpretation of the user's, from 810900 on
+inline constexpr int EciGeneral = 926;      ///< and two words: one from 900 on
+inline constexpr int EciCharacterSet = 927; ///< and one word: one below
+
 /// Sub-modes of Text compaction.
 enum TSubMode : std::uint8_t { Alpha, Lower, Mixed, Punctuation, SubModeCount };
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// QR symbols from text: mode, version, bits and blocks (ISO/IEC 18004).
 #include <vagrel/barcode/TEncoder.h>
 #include <vagrel/barcode/TMatrixUtil.h>
 #include <vagrel/barcode/TReedSolomonEncoder.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// A symbol is kept twice, by rows and by columns, as lines of machine words, so that masks and penalties take whole
-// lines at a time in both directions.
-#include <vagrel/barcode/BitLine_p.h>
+// The modules of a QR symbol (ISO/IEC 18004). A symbol is kept twice, by rows and by columns, as lines of machine
+// words, so that masks and penalties take whole lines at a time in both directions.
+#include <vagrel/barcode/QRMask_p.h>
 #include <vagrel/barcode/TMatrixUtil.h>
 
 #include <cstdlib>
@@ -10,54 +10,7 @@
 namespace vagrel {
 namespace {
 
-constexpr int MaskCount = 8;
-constexpr int MaskPeriod = 12;
-
-constexpr bool IsMasked(int mask, int row, int column) {
-    const int sum = row + column;
-    const int product = row * column;
-    switch (mask) {
-    case 0:
-        return sum % 2 == 0;
-    case 1:
-        return row % 2 == 0;
-    case 2:
-        return column % 3 == 0;
-    case 3:
-        return sum % 3 == 0;
-    case 4:
-        return (row / 2 + column / 3) % 2 == 0;
-    case 5:
-        return product % 2 + product % 3 == 0;
-    case 6:
-        return (product % 2 + product % 3) % 2 == 0;
-    default:
-        return (sum % 2 + product % 3) % 2 == 0;
-    }
-}
-
-enum TDirection { Rows, Columns };
-
-// By direction, mask and number of the line: every mask repeats after 12 cells in both directions, and three words hold
-// 16 such periods.
-using TMaskTable = std::array<std::array<std::array<TBitLine<3>, MaskPeriod>, MaskCount>, 2>;
-constexpr TMaskTable MakeMaskTable() {
-    TMaskTable table{};
-    for (int mask = 0; mask < MaskCount; ++mask) {
-        for (int line = 0; line < MaskPeriod; ++line) {
-            for (int cell = 0; cell < MaskPeriod; ++cell) {
-                const bool inRow = IsMasked(mask, line, cell);
-                const bool inColumn = IsMasked(mask, cell, line);
-                for (int repeat = cell; repeat < 3 * 64; repeat += MaskPeriod) {
-                    table[Rows][std::size_t(mask)][std::size_t(line)].Or(repeat, inRow);
-                    table[Columns][std::size_t(mask)][std::size_t(line)].Or(repeat, inColumn);
-                }
-            }
-        }
-    }
-    return table;
-}
-constexpr TMaskTable MaskTable = MakeMaskTable();
+using namespace detail;
 
 // The 15 bits of the format information.
 int FormatBits(TErrorCorrectionLevel level, int mask) {
@@ -202,7 +155,7 @@ private:
 
     TLine Masked(TDirection direction, int mask, int line) const {
         const auto at = std::size_t(line);
-        const TLine pattern = TLine::FirstWords(MaskTable[direction][std::size_t(mask)][at % MaskPeriod]);
+        const TLine pattern = TLine::FirstWords(QRMaskTable[direction][std::size_t(mask)][at % MaskPeriod]);
         return fCells[direction][at] ^ (pattern & ~fPatterns[direction][at] & fInside);
     }
 
@@ -219,9 +172,7 @@ private:
                 penalty += BlockPenalty(above, row, fInside);
             above = row;
         }
-        // |p - 50| / 50 to the nearest whole number, p the percentage of dark cells.
-        const int cells = fDimension * fDimension;
-        return penalty + (2 * std::abs(2 * dark - cells) > cells);
+        return penalty + BalancePenalty(dark, fDimension * fDimension);
     }
 
     TErrorCorrectionLevel fLevel;

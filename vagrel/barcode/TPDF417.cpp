@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// PDF417 codewords from text, and their correction (ISO/IEC 15438).
 #include <vagrel/barcode/Pdf417Tables_p.h>
 #include <vagrel/barcode/Pdf417Text_p.h>
 #include <vagrel/barcode/TPDF417.h>
@@ -12,10 +13,9 @@ namespace {
 
 using namespace detail;
 
-constexpr int LatchText = 900;
-constexpr int LatchNumeric = 902;
-constexpr std::uint16_t Padding = 900;
-constexpr int Filler = 29;
+constexpr std::uint16_t Padding = LatchText; // one at the end of the data changes nothing
+constexpr int Filler = 29;                   // a shift to Punctuation that nothing follows
+constexpr int ValuesOfWord = 30;             // of the two that a word of text holds
 constexpr std::size_t FewestDigits = 14;
 constexpr std::size_t DigitsOfChunk = 44;
 
@@ -101,7 +101,7 @@ private:
         if (fHalf < 0) {
             fHalf = value;
         } else {
-            Push(fHalf * 30 + value);
+            Push(fHalf * ValuesOfWord + value);
             fHalf = -1;
         }
     }

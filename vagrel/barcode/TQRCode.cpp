@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What a QR symbol tells of itself.
 #include <vagrel/barcode/TQRCode.h>
 
 #include <algorithm>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Correction codewords by division of polynomials over a Galois field.
 #include <vagrel/barcode/TReedSolomonEncoder.h>
 
 #include <algorithm>

@@ -111,10 +111,11 @@ void TVGRBaseBarcode::WriteSVG(TSVGOutput& out) const {
 void TVGRBaseBarcode::WriteDigits(TSVGOutput& out, const TPlacedDigits& digits) const {
     const float x = GetMM(digits.at.bX), y = GetMM(digits.at.bY);
     SvgElement text = out.Element();
-    (text << "<text x=\"").Val(x) << "\" y=\"";
-    text.Val(out.portable ? y + GetBaseValue(fMeasured.ascent) : y)
-        << "\" font-family=\"" << fFontName << "\" font-size=\"";
-    (text.Val(float(double(GetBaseValue(fFontHeight)) * fMeasured.ratio)) << "\"").Fill(fColor)
+    (text << "<text").Attr("x", x).Attr("y", out.portable ? y + GetBaseValue(fMeasured.ascent) : y)
+        << " font-family=\"";
+    (text.Name(fFontName) << "\"")
+            .Attr("font-size", float(double(GetBaseValue(fFontHeight)) * fMeasured.ratio))
+            .Fill(fColor)
         << " xml:space=\"preserve\"" << TextAnchor(digits.align, vaTop, out.portable);
     if (fAngle >= ag90 && fAngle <= ag270) {
         (text << "transform=\"rotate(" << std::to_string(DegAngle(fAngle)) << " ").Val(x) << " ";

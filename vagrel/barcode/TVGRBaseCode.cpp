@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What all codes share: size, padding, place, frame and bars in files and in SVG.
 #include <vagrel/barcode/TVGRBaseCode.h>
 
 #include <vagrel/document/TVGRBaseLabel.h>
@@ -165,14 +166,20 @@ void TVGRBaseCode::ReadBarKeys(TJsonObject& json) {
     StoreLimited(base(u"BarWidth"), base(u"BarHeight"), base(u"PaddingX"), base(u"PaddingY"));
 }
 
+namespace {
+
+SvgElement& WriteBox(SvgElement& rect, const TVGRBaseItem& item, const TKSLRect& box) {
+    return (rect << "<rect")
+        .Box(item.GetMM(box.Left), item.GetMM(box.Top), item.GetMM(box.GetWidth()), item.GetMM(box.GetHeight()));
+}
+
+} // namespace
+
 void TVGRBaseCode::WriteFrame(TSVGOutput& out) const {
     if (!fFill)
         return;
     SvgElement rect = out.Element();
-    (rect << "<rect x=\"").Val(GetMM(fBoundsRect.Left)) << "\" y=\"";
-    rect.Val(GetMM(fBoundsRect.Top)) << "\" width=\"";
-    rect.Val(GetMM(fBoundsRect.GetWidth())) << "\" height=\"";
-    (rect.Val(GetMM(fBoundsRect.GetHeight())) << "\"" << GetSVGID(out)).Fill(fBackColor) << " stroke-width=\"0\"/>";
+    (WriteBox(rect, *this, fBoundsRect) << GetSVGID(out)).Fill(fBackColor) << " stroke-width=\"0\"/>";
     out.svg.push_back(rect.Take());
 }
 
@@ -181,10 +188,7 @@ void TVGRBaseCode::WriteRects(TSVGOutput& out, const std::vector<TKSLRect>& rect
     bool named = fFill;
     for (const TKSLRect& dark : rects) {
         SvgElement rect = out.Element();
-        (rect << "<rect x=\"").Val(GetMM(dark.Left)) << "\" y=\"";
-        rect.Val(GetMM(dark.Top)) << "\" width=\"";
-        rect.Val(GetMM(dark.GetWidth())) << "\" height=\"";
-        (rect.Val(GetMM(dark.GetHeight())) << "\"" << (named ? "" : GetSVGID(out))).Fill(fColor) << "/>";
+        (WriteBox(rect, *this, dark) << (named ? "" : GetSVGID(out))).Fill(fColor) << "/>";
         named = true;
         out.svg.push_back(rect.Take());
     }

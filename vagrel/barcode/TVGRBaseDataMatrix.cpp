@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The Data Matrix item.
 #include <vagrel/barcode/TVGRBaseDataMatrix.h>
 
 #include <vagrel/document/TVGRBaseLabel.h>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What the items of matrix codes share.
 #include <vagrel/barcode/TVGRBaseMatrixCode.h>
 
 #include <vagrel/foundation/Rounding.h>

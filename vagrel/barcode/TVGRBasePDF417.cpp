@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The PDF417 item.
 #include <vagrel/barcode/TVGRBasePDF417.h>
 
 #include <vagrel/barcode/Pdf417Modules.h>

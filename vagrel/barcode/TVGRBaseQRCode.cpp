@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The QR Code item.
 #include <vagrel/barcode/TVGRBaseQRCode.h>
 
 #include <vagrel/barcode/TBarcode.h>

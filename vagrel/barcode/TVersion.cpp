@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What follows from the number of a QR version (ISO/IEC 18004).
 #include <vagrel/barcode/TVersion.h>
 
 namespace vagrel {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Where characters stand in Text compaction, and how its sub-modes change (ISO/IEC 15438).
 #include <vagrel/barcode/Pdf417Text_p.h>
 
 namespace vagrel::detail {

@@ -107,8 +107,11 @@ void TVGRMeasure::ReadData(std::int32_t version, TBinaryReader& reader) {
     fPaperSize = reader.Read<std::int16_t>();
     fPaperName = reader.ReadString();
     fDrawScale = version >= WideScaleVersion ? reader.Read<std::int64_t>() : reader.Read<std::int32_t>();
-    if (fDrawScale < 1 || fNuHor < 1 || fNuVer < 1) // they divide
-        throw EOutOfRange("damaged sheet or draw scale before byte " + std::to_string(reader.Position()));
+    const std::pair<const char*, std::int64_t> divisors[] = {
+        {"DrawScale", fDrawScale}, {"Rows", fNuHor}, {"Columns", fNuVer}};
+    for (const auto& [key, value] : divisors)
+        if (value < 1)
+            throw Refusal<EOutOfRange>(key, std::to_string(value), "numbers from 1 on");
     fContinousPaper = reader.ReadBool();
     fLabelType = TVagrelType(reader.Read<std::uint8_t>());
     fInnerCircle = reader.Read<std::int32_t>();

@@ -86,8 +86,7 @@ SvgElement& TVGR2DItem::WriteFill(SvgElement& element) const {
 }
 
 SvgElement& TVGR2DItem::WriteStroke(SvgElement& element, TKSLineType dash) const {
-    element.Stroke(fColor) << " stroke-width=\"";
-    return (element.Pen(GetPenWidth()) << "\"").Dash(dash);
+    return element.Stroke(fColor).StrokeWidth(GetPenWidth()).Dash(dash);
 }
 
 void TVGR2DItem::WriteKeys(TJsonObject& json) const {

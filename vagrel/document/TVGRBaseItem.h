@@ -22,12 +22,16 @@ class TVGRBaseLabel;
 class TVGRLayer;
 struct TVGRReceiver;
 
-/// The printable extent of items in base units. A limit of -1 has no value yet.
+/// The printable extent of items in base units. A limit of -1 has no value until the first point is taken in; from then
+/// on -1 is a place like any other.
 struct TKSLExtent {
     std::int64_t minX = -1, maxX = -1, minY = -1, maxY = -1;
 
     /// Takes in the square of side 2 × `by` around a point.
     void Widen(std::int64_t x, std::int64_t y, std::int64_t by);
+
+private:
+    bool fHasValues = false;
 };
 
 /// Which points of an item form a chain of straight segments, counted from 1; `first` is 0 for none.
@@ -261,6 +265,13 @@ protected:
     void Follow(TFollow follow);
     /// What follows a stored coordinate, unless a document is being read.
     void PointStored();
+    /// Store a coordinate in base units as the setters do.
+    void StoreX(int index, std::int64_t base);
+    void StoreY(int index, std::int64_t base);
+    /// Whether a coordinate of JSON, in document units, keeps to double.
+    bool IsExact(double coordinate) const;
+    /// A coordinate as JSON has it.
+    double CoordinateOf(std::int64_t base) const;
     bool InRange(int index) const { return index >= 1 && index <= int(fPoints.size()); }
     TKSLPto& At(int index) { return fPoints[std::size_t(index - 1)]; }
     const TKSLPto& At(int index) const { return fPoints[std::size_t(index - 1)]; }

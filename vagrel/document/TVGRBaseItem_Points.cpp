@@ -4,16 +4,24 @@
 
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/foundation/Rounding.h>
+#include <vagrel/foundation/Units.h>
 
 #include <algorithm>
 
 namespace vagrel {
 
 void TKSLExtent::Widen(std::int64_t x, std::int64_t y, std::int64_t by) {
-    auto lower = [](std::int64_t& limit, std::int64_t value) { limit = limit == -1 ? value : std::min(limit, value); };
-    auto raise = [](std::int64_t& limit, std::int64_t value) { limit = limit == -1 ? value : std::max(limit, value); };
+    // Callers may hand in some limits of their own and leave others unset.
+    auto isUnset = [this](std::int64_t limit) { return !fHasValues && limit == -1; };
+    auto lower = [&](std::int64_t& limit, std::int64_t value) {
+        limit = isUnset(limit) ? value : std::min(limit, value);
+    };
+    auto raise = [&](std::int64_t& limit, std::int64_t value) {
+        limit = isUnset(limit) ? value : std::max(limit, value);
+    };
     lower(minX, SubSat(x, by)), raise(maxX, AddSat(x, by));
     lower(minY, SubSat(y, by)), raise(maxY, AddSat(y, by));
+    fHasValues = true;
 }
 
 TKSLPto TVGRBaseItem::GetPoint(int index) const { return InRange(index) ? At(index) : TKSLPto(); }
@@ -24,22 +32,28 @@ float TVGRBaseItem::GetPointMMX(int index) const { return FromBase(GetPoint(inde
 float TVGRBaseItem::GetPointMMY(int index) const { return FromBase(GetPoint(index).bY); }
 
 void TVGRBaseItem::SetPointX(int index, float value) {
-    if (!InRange(index) || At(index).GetX(fOwner.GetUnits()) == value)
-        return;
-    fOwner.AddState(lsUpdate);
-    if (!Record({ckPosX, index}) || !InRange(index))
-        return;
-    At(index).SetX(value, fOwner.GetUnits());
-    PointStored();
+    if (InRange(index) && GetPointX(index) != value)
+        StoreX(index, SetValue(value, fOwner.GetUnits()));
 }
 
 void TVGRBaseItem::SetPointY(int index, float value) {
-    if (!InRange(index) || At(index).GetY(fOwner.GetUnits()) == value)
+    if (InRange(index) && GetPointY(index) != value)
+        StoreY(index, SetValue(value, fOwner.GetUnits()));
+}
+
+void TVGRBaseItem::StoreX(int index, std::int64_t base) {
+    fOwner.AddState(lsUpdate);
+    if (!Record({ckPosX, index}) || !InRange(index))
         return;
+    At(index).bX = base;
+    PointStored();
+}
+
+void TVGRBaseItem::StoreY(int index, std::int64_t base) {
     fOwner.AddState(lsUpdate);
     if (!Record({ckPosY, index}) || !InRange(index))
         return;
-    At(index).SetY(value, fOwner.GetUnits());
+    At(index).bY = base;
     PointStored();
 }
 
@@ -121,7 +135,7 @@ void TVGRBaseItem::UpdateBounds() {
         fBoundsRect = {a.bX, a.bY, b.bX, b.bY};
     } else {
         // -1 on the left or the top means that there is no value yet.
-        fBoundsRect = TKSLRect::EmptyRect();
+        fBoundsRect.EmptyRect();
         for (const TKSLPto& point : fPoints) {
             if (fBoundsRect.Left == -1 || point.bX < fBoundsRect.Left)
                 fBoundsRect.Left = point.bX;

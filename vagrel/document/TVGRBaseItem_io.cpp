@@ -14,6 +14,7 @@
 #include <vagrel/persistence/TJsonObject.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace vagrel {
 
@@ -21,6 +22,14 @@ namespace {
 
 // Leaves room for the numbers of items to come.
 constexpr std::int32_t HighestID = 1 << 30;
+
+void CheckNumber(std::int32_t number) {
+    if (number > HighestID)
+        throw Refusal<EOutOfRange>("InID", std::to_string(number), "numbers up to " + std::to_string(HighestID));
+}
+
+// From here on single precision is coarser than the third decimal.
+constexpr double FirstInexact = 16384;
 
 } // namespace
 
@@ -44,8 +53,8 @@ std::unique_ptr<TJsonObject> TVGRBaseItem::WriteJson() const {
     TJsonArray& points = json->AddArray(u"Points");
     for (int i = 1; i <= int(fPoints.size()); ++i) {
         TJsonObject& point = points.AddObject();
-        point.SetFloat(u"X", RoundTo3(GetPointX(i)));
-        point.SetFloat(u"Y", RoundTo3(GetPointY(i)));
+        point.SetFloat(u"X", CoordinateOf(At(i).bX));
+        point.SetFloat(u"Y", CoordinateOf(At(i).bY));
     }
     WriteKeys(*json);
     return json;
@@ -53,8 +62,7 @@ std::unique_ptr<TJsonObject> TVGRBaseItem::WriteJson() const {
 
 void TVGRBaseItem::ReadJson(std::int32_t version, TJsonObject& json) {
     fInID = json.GetInt(u"InID");
-    if (fInID > HighestID)
-        throw EOutOfRange(u"InID: the number is out of range");
+    CheckNumber(fInID);
     fID = json.GetString(u"ID");
     fOwner.RaiseMaxID(fInID);
     fLayer = &fOwner.LayerAt(std::min(json.GetInt(u"Layer"), fOwner.LayersCount()));
@@ -74,8 +82,15 @@ void TVGRBaseItem::ReadJson(std::int32_t version, TJsonObject& json) {
         fPoints.resize(std::size_t(points.Count()));
     for (int i = 1; i <= points.Count() && InRange(i); ++i) {
         TJsonObject& point = points.GetObject(i - 1);
-        SetPointX(i, float(point.GetFloat(u"X")));
-        SetPointY(i, float(point.GetFloat(u"Y")));
+        const double x = point.GetFloat(u"X"), y = point.GetFloat(u"Y");
+        if (IsExact(x))
+            StoreX(i, Round(x * double(UnitFactor(fOwner.GetUnits()))));
+        else
+            SetPointX(i, float(x));
+        if (IsExact(y))
+            StoreY(i, Round(y * double(UnitFactor(fOwner.GetUnits()))));
+        else
+            SetPointY(i, float(y));
     }
     ReadKeys(version, json);
     UpdateBounds();
@@ -107,6 +122,9 @@ void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLRea
         fInID = fOwner.NextID();
         SetName();
     } else {
+        // A session may come to such a number, and undo brings back what it had.
+        if (fOwner.HasAnyState({lsReading}))
+            CheckNumber(fInID);
         fOwner.RaiseMaxID(fInID);
     }
     fLayer = &fOwner.LayerAt(reader.Read<std::int16_t>());
@@ -116,7 +134,8 @@ void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLRea
     fOptions = TKSLayerOpts::FromBits(reader.Read<std::uint32_t>());
     const int count = reader.Read<std::int16_t>();
     if (count < 0 || std::size_t(count) * 2 * sizeof(std::int64_t) > reader.Left())
-        throw EStreamError("damaged point count at byte " + std::to_string(reader.Position()));
+        throw Refusal<EStreamError>("count of points before byte " + std::to_string(reader.Position()),
+                                    std::to_string(count), "what the rest of the data can hold");
     if (HasTrait(trFreePoints))
         fPoints.resize(std::size_t(count));
     for (int i = 1; i <= count; ++i) {
@@ -132,12 +151,21 @@ void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLRea
     }
 }
 
+bool TVGRBaseItem::IsExact(double coordinate) const {
+    return fOwner.GetExactJson() && std::fabs(coordinate) >= FirstInexact;
+}
+
+double TVGRBaseItem::CoordinateOf(std::int64_t base) const {
+    const double exact = double(base) / double(UnitFactor(fOwner.GetUnits()));
+    return RoundTo3(IsExact(exact) ? exact : double(GetValue(base, fOwner.GetUnits())));
+}
+
 std::string TVGRBaseItem::GetSVGID(const TSVGOutput& out) const {
     if (!out.attrID)
         return {};
-    std::string text = " id=\"";
-    AppendUtf8(text, ReplaceAll(fID, u" ", u""));
-    return text += "\" ";
+    SvgElement id = out.Element();
+    (id << " id=\"").Name(ReplaceAll(fID, u" ", u"")) << "\" ";
+    return id.Take();
 }
 
 void TVGRBaseItem::WritePoints(SvgElement& element, int first) const {

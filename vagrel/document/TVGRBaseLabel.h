@@ -225,6 +225,10 @@ public:
     bool HasDrawScale() const { return fEditorMode == emDrawing || fEditorMode == emInteractive; }
     TVagrelOptions GetOptions() const { return fOptions; }
     void SetOptions(TVagrelOptions value) { fOptions = value; }
+    /// Whether coordinates of points from 16384 document units on, where single precision ends to hold three decimals,
+    /// are written to JSON and read from it in double; off at first.
+    bool GetExactJson() const { return fExactJson; }
+    void SetExactJson(bool value) { fExactJson = value; }
     bool GetModified() const { return fModified; }
     void SetModified(bool value) { fModified = value; }
     bool GetUpdate() const { return fUpdate; }
@@ -718,6 +722,7 @@ private:
     std::int32_t fReadedVer = 0;
     bool fUpdate = false;
     TVagrelOptions fOptions{loUniqueID, loUndoRedo};
+    bool fExactJson = false;
     std::vector<TVGRBaseItem*> fSelection;
     std::vector<TVGRBaseItem*> fLinks;
     std::vector<TVGRBaseItem*> fCalcs;

@@ -5,6 +5,7 @@
 #include <vagrel/foundation/Records.h>
 
 #include <array>
+#include <optional>
 
 namespace vagrel {
 
@@ -114,8 +115,9 @@ private:
     static TState& Current();
     static TKSLActPto Slot(int slot);
     static TKSLBPoint Pick(int index);
-    /// Each a value of its enumeration, or -1 for what stays.
-    static void Enter(int state, int draw, int editor);
+    /// What is not given stays.
+    static void Enter(std::optional<TKSLEdState> state, std::optional<TKSLDrawType> draw,
+                      std::optional<TKSLStEditor> editor);
     /// The caption of the action and the prompt of the state.
     static TKSLSInfo GetInfo();
 };

@@ -7,18 +7,19 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 namespace vagrel {
 
 namespace {
 
-// "Stay" entries leave what was set before.
-constexpr auto Stay = -1;
+// What an entry leaves as it was set before.
+constexpr std::nullopt_t Stay = std::nullopt;
 
 struct TFirst {
-    int state;
-    int editor;
-    int draw = Stay;
+    std::optional<TKSLEdState> state;
+    std::optional<TKSLStEditor> editor;
+    std::optional<TKSLDrawType> draw = Stay;
     bool remembered = true; ///< as the last tool
     const char16_t* caption = u"";
     const char16_t* common = u""; ///< the caption where the table of texts lacks the other
@@ -106,16 +107,16 @@ static_assert(std::size(Prompts) == edPickCircle + 1);
 
 // Steps. Of the rows with the action and its state the first one counts; without one the state stays.
 
-constexpr auto AnyState = -1;
-constexpr auto ByFlowType = -2; ///< the outline of the shape
+constexpr std::nullopt_t AnyState = std::nullopt;
 
 struct TStep {
     TKSLEdActions actions;
-    int from;
-    int to;
-    int draw = Stay;
-    int editor = Stay;
-    bool normalize = false; ///< makes the first two picks the corners of a box
+    std::optional<TKSLEdState> from;
+    std::optional<TKSLEdState> to;
+    std::optional<TKSLDrawType> draw = Stay;
+    std::optional<TKSLStEditor> editor = Stay;
+    bool normalize = false;  ///< makes the first two picks the corners of a box
+    bool byFlowType = false; ///< draws the outline of the shape
 };
 
 constexpr TKSLEdActions Places{eaPoint, eaSymbol, eaPolyText, eaBarcode, eaPDF417, eaDataMatrix, eaQRCode};
@@ -136,7 +137,7 @@ constexpr TStep Picks[] = {
     {Lines, edPickSecond, edEnd, dtNone},
     {Boxes, edPickFirst, edPickSecond, dtRect},
     {Diameters, edPickFirst, edPickSecond, dtCircle2P},
-    {{eaFlow}, edPickFirst, edPickSecond, ByFlowType},
+    {{eaFlow}, edPickFirst, edPickSecond, Stay, Stay, false, true},
     {Boxes + Diameters + TKSLEdActions{eaFlow}, edPickSecond, edEnd, dtNone, Stay, true},
     {Chains, edPickFirst, edPickNext, dtLine},
     {Chains, AnyState, Stay, dtLine},
@@ -194,7 +195,7 @@ constexpr TStep Closings[] = {
 template <std::size_t Count>
 const TStep* Find(const TStep (&steps)[Count]) {
     const auto step = std::ranges::find_if(steps, [](const TStep& each) {
-        return each.actions.Has(TAct::GetAction()) && (each.from == AnyState || each.from == TAct::GetState());
+        return each.actions.Has(TAct::GetAction()) && (!each.from || each.from == TAct::GetState());
     });
     return step == std::end(steps) ? nullptr : step;
 }
@@ -219,14 +220,12 @@ std::u16string Caption(const TFirst& first) {
 
 } // namespace
 
-void TAct::Enter(int state, int draw, int editor) {
+void TAct::Enter(std::optional<TKSLEdState> state, std::optional<TKSLDrawType> draw,
+                 std::optional<TKSLStEditor> editor) {
     TState& act = Current();
-    if (state != Stay)
-        act.fCurState = TKSLEdState(state);
-    if (draw != Stay)
-        act.fDrawType = TKSLDrawType(draw);
-    if (editor != Stay)
-        act.fCurEditor = TKSLStEditor(editor);
+    act.fCurState = state.value_or(act.fCurState);
+    act.fDrawType = draw.value_or(act.fDrawType);
+    act.fCurEditor = editor.value_or(act.fCurEditor);
 }
 
 void TAct::SelFirstState() {
@@ -249,7 +248,7 @@ TKSLSInfo TAct::AddPoint(std::int64_t bx, std::int64_t by) {
     if (const TStep* step = Find(Picks)) {
         if (step->normalize)
             NormalizePoints();
-        Enter(step->to, step->draw == ByFlowType ? FlowOutlines[act.fCurFlowType] : step->draw, step->editor);
+        Enter(step->to, step->byFlowType ? FlowOutlines[act.fCurFlowType] : step->draw, step->editor);
     }
     return GetInfo();
 }

@@ -36,6 +36,13 @@ decltype(auto) AtPlace(const std::string& place, Action&& action) {
     }
 }
 
+/// The refusal of a value of a file that names its key, the value and what is allowed: "InID: 7 is not allowed, only
+/// ...".
+template <class Error>
+Error Refusal(const std::string& key, const std::string& value, const std::string& allowed) {
+    return Error(key + ": " + value + " is not allowed, only " + allowed);
+}
+
 /// Misuse of an operation in the state that the object is in.
 class EInvalidOperation : public EVagrel {
     using EVagrel::EVagrel;

@@ -51,9 +51,10 @@ struct TKSLRect {
     /// Edges included.
     bool Contains(const TKSLRect& other) const;
     bool IsEmpty() const { return Right <= Left || Bottom <= Top; }
-    static TKSLRect Empty() { return {}; }
-    /// All four at -1: no value yet.
-    static TKSLRect EmptyRect() { return {-1, -1, -1, -1}; }
+    /// Sets all four to 0.
+    void Empty() { *this = {}; }
+    /// Sets all four to -1: no value yet.
+    void EmptyRect() { *this = {-1, -1, -1, -1}; }
     /// True for a common area; a common edge is none.
     bool IntersectsWith(const TKSLRect& other) const;
     void NormalizeRect();

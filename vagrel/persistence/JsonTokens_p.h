@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
-// The classes of code units that JSON knows.
+// The classes of code units that JSON knows, and where in a text a fault stands.
 #pragma once
 
 #include <array>
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <string>
 #include <type_traits>
+
+#include <vagrel/persistence/JsonExceptions.h>
 
 namespace vagrel {
 
@@ -68,6 +71,22 @@ inline const Unit* BehindPlain(const Unit* at, const Unit* end) {
     while (at != end && IsPlain(*at))
         ++at;
     return at;
+}
+
+/// The fault at `at` in the text from `begin` to `end`.
+template <class Unit>
+EJsonParserException FaultAt(const std::string& message, const Unit* begin, const Unit* end, const Unit* at) {
+    std::size_t line = 1, column = 1;
+    for (const Unit* unit = begin; unit != at; ++unit) {
+        const auto code = std::make_unsigned_t<Unit>(*unit);
+        if (code == '\n' || (code == '\r' && (unit + 1 == end || unit[1] != '\n'))) {
+            ++line;
+            column = 1;
+        } else if (sizeof(Unit) > 1 || (code & 0xC0) != 0x80) {
+            column += sizeof(Unit) == 1 && code >= 0xF0 ? 2 : 1;
+        }
+    }
+    return EJsonParserException(message, line, column, std::size_t(at - begin));
 }
 
 } // namespace vagrel

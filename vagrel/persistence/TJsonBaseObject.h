@@ -32,6 +32,8 @@ public:
                                                      const TJsonReaderProgressRec* progress = nullptr);
     static std::unique_ptr<TJsonBaseObject> FromUtf8JSON(std::string_view bytes,
                                                          const TJsonReaderProgressRec* progress = nullptr);
+    /// The text of a file behind its byte order mark, by the encodings of ParseFromFile.
+    static std::u16string DecodeBytes(std::string_view bytes);
     /// As FromUtf8JSON; a byte order mark of UTF-8 or UTF-16 tells the encoding, without one it is UTF-8. Throws
     /// EJsonException for the mark of another encoding, EStreamError for a file that cannot be read.
     static std::unique_ptr<TJsonBaseObject> ParseFromFile(const std::string& name,
@@ -43,7 +45,9 @@ public:
     /// the old content stays. Throws EJsonParserException.
     void Parse(std::u16string_view text, const TJsonReaderProgressRec* progress = nullptr);
     void ParseUtf8(std::string_view bytes, const TJsonReaderProgressRec* progress = nullptr);
-    /// As Parse, with encodings and exceptions of ParseFromFile.
+    /// As Parse, with encodings and exceptions of ParseFromFile: the bytes of a file, its stream or its name. In UTF-16
+    /// half a surrogate pair is a fault, too.
+    void ParseBytes(std::string_view bytes, const TJsonReaderProgressRec* progress = nullptr);
     void LoadFromFile(const std::string& name, const TJsonReaderProgressRec* progress = nullptr);
     void LoadFromStream(std::istream& stream, const TJsonReaderProgressRec* progress = nullptr);
 
@@ -99,7 +103,6 @@ private:
     void DropLast();
     void Adopt(std::unique_ptr<TJsonBaseObject> content);
     TJsonDataType Kind() const { return fIsObject ? jdtObject : jdtArray; }
-    void LoadEncoded(std::string_view bytes, const TJsonReaderProgressRec* progress);
     void WritePieces(bool compact, TJsonEncoding encoding, const std::function<void(std::string_view)>& put) const;
 
     TJsonDataValue* fItems = nullptr; // fCapacity values; behind them, of an object, fCapacity names

@@ -2,6 +2,7 @@
 // Containers from and to texts, files and streams.
 #include <vagrel/persistence/TJsonBaseObject.h>
 
+#include "JsonTokens_p.h"
 #include "JsonTree_p.h"
 
 #include <vagrel/foundation/Text.h>
@@ -21,15 +22,25 @@ namespace {
 
 constexpr std::string_view MarkUtf8 = "\xEF\xBB\xBF", MarkUtf16LE = "\xFF\xFE", MarkUtf16BE = "\xFE\xFF";
 
+bool IsHighSurrogate(char16_t unit) { return (unit & 0xFC00) == 0xD800; }
+bool IsLowSurrogate(char16_t unit) { return (unit & 0xFC00) == 0xDC00; }
+
 std::u16string FromUtf16Bytes(std::string_view bytes, bool bigEndian) {
-    if (bytes.size() % 2 != 0)
-        throw EJsonException("UTF-16 text has an odd number of bytes");
     std::u16string text(bytes.size() / 2, u'\0');
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto first = static_cast<unsigned char>(bytes[2 * i]),
                    second = static_cast<unsigned char>(bytes[2 * i + 1]);
         text[i] = char16_t(bigEndian ? first << 8 | second : second << 8 | first);
     }
+    const char16_t *const begin = text.data(), *const end = begin + text.size();
+    for (const char16_t* at = begin; at != end; ++at) {
+        const bool isPair = IsHighSurrogate(*at) && at + 1 != end && IsLowSurrogate(at[1]);
+        if (!isPair && (IsHighSurrogate(*at) || IsLowSurrogate(*at)))
+            throw FaultAt("Half a surrogate pair in UTF-16 text", begin, end, at);
+        at += isPair;
+    }
+    if (bytes.size() % 2 != 0)
+        throw FaultAt("UTF-16 text has an odd number of bytes", begin, end, end);
     return text;
 }
 
@@ -92,6 +103,15 @@ std::unique_ptr<TJsonBaseObject> TJsonBaseObject::FromUtf8JSON(std::string_view 
     return ReadTree(bytes, progress);
 }
 
+std::u16string TJsonBaseObject::DecodeBytes(std::string_view bytes) {
+    return WithEncoding(bytes, [](auto text) {
+        if constexpr (std::is_same_v<decltype(text), std::string_view>)
+            return FromUtf8(text);
+        else
+            return std::u16string(text);
+    });
+}
+
 std::unique_ptr<TJsonBaseObject> TJsonBaseObject::ParseFromFile(const std::string& name,
                                                                 const TJsonReaderProgressRec* progress) {
     return ReadEncoded(ReadFile(name), progress);
@@ -110,16 +130,16 @@ void TJsonBaseObject::ParseUtf8(std::string_view bytes, const TJsonReaderProgres
     Adopt(TJsonReader<char>(bytes, progress).Read(Kind()));
 }
 
+void TJsonBaseObject::ParseBytes(std::string_view bytes, const TJsonReaderProgressRec* progress) {
+    WithEncoding(bytes, [&](auto text) { Adopt(TJsonReader(text, progress).Read(Kind())); });
+}
+
 void TJsonBaseObject::LoadFromFile(const std::string& name, const TJsonReaderProgressRec* progress) {
-    LoadEncoded(ReadFile(name), progress);
+    ParseBytes(ReadFile(name), progress);
 }
 
 void TJsonBaseObject::LoadFromStream(std::istream& stream, const TJsonReaderProgressRec* progress) {
-    LoadEncoded(AllOf(stream), progress);
-}
-
-void TJsonBaseObject::LoadEncoded(std::string_view bytes, const TJsonReaderProgressRec* progress) {
-    WithEncoding(bytes, [&](auto text) { Adopt(TJsonReader(text, progress).Read(Kind())); });
+    ParseBytes(AllOf(stream), progress);
 }
 
 std::u16string TJsonBaseObject::ToJSON(bool compact) const {
@@ -146,10 +166,8 @@ void TJsonBaseObject::WritePieces(bool compact, TJsonEncoding encoding,
     }
     const bool bigEndian = encoding == jeUtf16BE;
     put(bigEndian ? MarkUtf16BE : MarkUtf16LE);
-    TJsonOutputWriter<char16_t> writer(compact,
-                                       [&](std::u16string_view piece) { put(ToUtf16Bytes(piece, bigEndian)); });
-    writer.Write(*this);
-    writer.Finish();
+    // By way of UTF-8, where a lone surrogate becomes U+FFFD: as it is nobody would read the file back.
+    put(ToUtf16Bytes(FromUtf8(ToUtf8JSON(compact)), bigEndian));
 }
 
 void TJsonBaseObject::SaveToFile(const std::string& name, bool compact, TJsonEncoding encoding) const {

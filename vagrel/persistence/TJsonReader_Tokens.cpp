@@ -266,17 +266,7 @@ std::string TJsonReader<Unit>::Found() const {
 
 template <class Unit>
 void TJsonReader<Unit>::Fail(const std::string& message, const Unit* at) const {
-    std::size_t line = 1, column = 1;
-    for (const Unit* unit = fBegin; unit != at; ++unit) {
-        const auto code = std::make_unsigned_t<Unit>(*unit);
-        if (code == '\n' || (code == '\r' && (unit + 1 == fEnd || unit[1] != '\n'))) {
-            ++line;
-            column = 1;
-        } else if (sizeof(Unit) > 1 || (code & 0xC0) != 0x80) {
-            column += sizeof(Unit) == 1 && code >= 0xF0 ? 2 : 1;
-        }
-    }
-    throw EJsonParserException(message, line, column, std::size_t(at - fBegin));
+    throw FaultAt(message, fBegin, fEnd, at);
 }
 
 template <class Unit>

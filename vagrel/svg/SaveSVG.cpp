@@ -57,7 +57,7 @@ struct TSheetItem {
 } // namespace
 
 std::string TVGRBaseLabel::SVG(TKSLExportSVG type, float factor, bool attrID, bool portable) const {
-    TSVGOutput out{type, factor, attrID, portable, {}, {}};
+    TSVGOutput out{type, factor, attrID, portable, {}, {}, true};
     for (const auto& item : fItems)
         if (item->Shows({lopVisible, lopExport}))
             item->WriteSVG(out);
@@ -65,7 +65,7 @@ std::string TVGRBaseLabel::SVG(TKSLExportSVG type, float factor, bool attrID, bo
 }
 
 std::string TVGRBaseLabel::SheetSVG(TKSLExportSVG type, float factor, bool attrID, bool portable) const {
-    TSVGOutput out{type, factor, attrID, portable, {}, {}};
+    TSVGOutput out{type, factor, attrID, portable, {}, {}, true};
     std::vector<TSheetItem> items;
     for (const auto& item : fItems) {
         if (!item->Shows({lopVisible, lopExport}))

@@ -47,6 +47,7 @@ const TDash& DashOf(TKSLineType type) {
     return Dashes[type >= iiSolid && std::size_t(type) < Dashes.size() ? std::size_t(type) : 0];
 }
 
+// How a character is escaped; empty for one that stands for itself.
 std::string_view Entity(char16_t unit) {
     switch (unit) {
     case u'"':
@@ -55,10 +56,15 @@ std::string_view Entity(char16_t unit) {
         return "&amp;";
     case u'<':
         return "&lt;";
-    default:
+    case u'>':
         return "&gt;";
+    default:
+        return "";
     }
 }
+
+// Whether XML 1.0 has the character. Half a surrogate pair counts: as UTF-8 it is another one.
+bool IsXml(char16_t unit) { return unit < 0x20 ? unit == u'\t' || unit == u'\n' || unit == u'\r' : unit < 0xFFFE; }
 
 } // namespace
 
@@ -99,6 +105,24 @@ SvgElement& SvgElement::Pen(float width) {
     return *this;
 }
 
+SvgElement& SvgElement::Attr(std::string_view name, float value) {
+    fText.append(1, ' ').append(name).append("=\"");
+    Val(value);
+    fText += '"';
+    return *this;
+}
+
+SvgElement& SvgElement::Box(float x, float y, float width, float height) {
+    return Attr("x", x).Attr("y", y).Attr("width", width).Attr("height", height);
+}
+
+SvgElement& SvgElement::StrokeWidth(float width) {
+    fText += " stroke-width=\"";
+    Pen(width);
+    fText += '"';
+    return *this;
+}
+
 void SvgElement::Paint(std::string_view name, TAlphaColor color) {
     constexpr char hex[] = "0123456789ABCDEF";
     char digits[] = "=\"#RRGGBB\"";
@@ -128,15 +152,21 @@ SvgElement& SvgElement::Dash(TKSLineType type) {
     return *this;
 }
 
+SvgElement& SvgElement::Name(std::u16string_view name) { return fWellFormed ? Text(name) : *this << name; }
+
 SvgElement& SvgElement::Text(std::u16string_view text) {
-    for (;;) {
-        const std::size_t hit = text.find_first_of(u"\"&<>");
-        AppendUtf8(fText, text.substr(0, hit));
-        if (hit == std::u16string_view::npos)
-            return *this;
-        fText += Entity(text[hit]);
-        text.remove_prefix(hit + 1);
+    std::size_t done = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool dropped = fWellFormed && !IsXml(text[i]);
+        const std::string_view entity = Entity(text[i]);
+        if (!dropped && entity.empty())
+            continue;
+        AppendUtf8(fText, text.substr(done, i - done));
+        fText += entity;
+        done = i + 1;
     }
+    AppendUtf8(fText, text.substr(done));
+    return *this;
 }
 
 // A copy of exact size: an export keeps all its elements, and spare room in each of them costs more than copying.

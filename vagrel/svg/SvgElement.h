@@ -15,8 +15,12 @@ namespace vagrel {
 /// enumerations that do not exist write nothing.
 class SvgElement {
 public:
-    /// `factor` scales positions and lengths in the modes `svFactor` and `svFactorPx`.
-    SvgElement(TKSLExportSVG type, float factor) : fType(type), fFactor(factor) { fText.reserve(Usual); }
+    /// `factor` scales positions and lengths in the modes `svFactor` and `svFactorPx`. With `wellFormed` names are
+    /// escaped, and names and texts lose the characters that XML cannot hold.
+    SvgElement(TKSLExportSVG type, float factor, bool wellFormed = false)
+        : fType(type), fFactor(factor), fWellFormed(wellFormed) {
+        fText.reserve(Usual);
+    }
 
     /// Appends text as it is.
     SvgElement& operator<<(std::string_view literal) {
@@ -35,6 +39,13 @@ public:
     /// A pen width: as `ValUnit` in millimetres, but never scaled and without suffix.
     SvgElement& Pen(float width);
 
+    /// ` name="value"`, a position or length by `Val`.
+    SvgElement& Attr(std::string_view name, float value);
+    /// The four attributes of a rectangle.
+    SvgElement& Box(float x, float y, float width, float height);
+    /// ` stroke-width="width"` by `Pen`.
+    SvgElement& StrokeWidth(float width);
+
     /// ` stroke="#RRGGBB"`, with a stroke-opacity below alpha 255.
     SvgElement& Stroke(TAlphaColor color);
     /// ` fill="#RRGGBB"`, with a fill-opacity below alpha 255.
@@ -42,6 +53,8 @@ public:
     /// ` stroke-dasharray="..." `, a blank on either side; nothing for `iiSolid`. The lengths are not scaled.
     SvgElement& Dash(TKSLineType type);
 
+    /// Appends an identifier or the name of a font in UTF-8: as it is stored or, well-formed, as `Text` does.
+    SvgElement& Name(std::u16string_view name);
     /// Appends text in UTF-8 with `"`, `&`, `<` and `>` escaped.
     SvgElement& Text(std::u16string_view text);
 
@@ -58,6 +71,7 @@ private:
     std::string fText;
     TKSLExportSVG fType;
     float fFactor;
+    bool fWellFormed;
 };
 
 /// The lengths of a dash style in millimetres, dash and gap by turns from the start of a line; none for `iiSolid`. An

@@ -43,19 +43,12 @@ public:
 
 private:
     std::string Circle(TSpot center, float radius, bool filled) {
-        fOut << R"(<circle cx=")";
-        fOut.Val(center.x) << R"(" cy=")";
-        fOut.Val(center.y) << R"(" r=")";
-        fOut.Val(radius) << "\"";
+        (fOut << "<circle").Attr("cx", center.x).Attr("cy", center.y).Attr("r", radius);
         return Figure(filled);
     }
 
     std::string Square(TSpot corner, float size, bool filled) {
-        fOut << R"(<rect x=")";
-        fOut.Val(corner.x) << R"(" y=")";
-        fOut.Val(corner.y) << R"(" width=")";
-        fOut.Val(size) << R"(" height=")";
-        fOut.Val(size) << (filled ? "\"" : "\" ");
+        (fOut << "<rect").Box(corner.x, corner.y, size, size) << (filled ? "" : " ");
         return Figure(filled);
     }
 
@@ -71,11 +64,7 @@ private:
     }
 
     std::string Line(TSpot from, TSpot to) {
-        fOut << R"(<line x1=")";
-        fOut.Val(from.x) << R"(" y1=")";
-        fOut.Val(from.y) << R"(" x2=")";
-        fOut.Val(to.x) << R"(" y2=")";
-        fOut.Val(to.y) << "\"";
+        (fOut << "<line").Attr("x1", from.x).Attr("y1", from.y).Attr("x2", to.x).Attr("y2", to.y);
         return Stroke();
     }
 
@@ -88,8 +77,7 @@ private:
     }
 
     std::string Stroke() {
-        (fOut << " ").Stroke(fColor) << R"( stroke-width=")";
-        fOut.Pen(fPen) << R"("/>)";
+        (fOut << " ").Stroke(fColor).StrokeWidth(fPen) << "/>";
         return fOut.Take();
     }
 

@@ -21,9 +21,12 @@ struct TSVGOutput {
     bool portable = false;
     std::vector<std::string> svg;
     std::vector<std::string> defs;
+    /// Identifiers and names of fonts are escaped, characters that XML cannot hold are dropped, and a slice whose
+    /// written ends coincide is a circle. Whoever writes a document asks for it; an item alone writes what is stored.
+    bool wellFormed = false;
 
     /// An empty element in the export's form of numbers.
-    SvgElement Element() const { return SvgElement(ExportType, Factor); }
+    SvgElement Element() const { return SvgElement(ExportType, Factor, wellFormed); }
 
     /// True when `defs` already holds the definition that opens with this line.
     bool Defined(const std::string& opening) const { return std::ranges::find(defs, opening) != defs.end(); }

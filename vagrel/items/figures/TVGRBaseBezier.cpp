@@ -51,8 +51,8 @@ void TVGRBaseBezier::WriteSVG(TSVGOutput& out) const {
         WriteFill(curve) << " ";
         WriteStroke(curve, fLineType) << "/>";
     } else {
-        (curve << "\" ").Stroke(fColor) << " fill=\"none\" stroke-width=\"";
-        (curve.Pen(GetPenWidth()) << "\"").Dash(fLineType) << TExSVG::GetCap(true) << "/>";
+        (curve << "\" ").Stroke(fColor) << " fill=\"none\"";
+        curve.StrokeWidth(GetPenWidth()).Dash(fLineType) << TExSVG::GetCap(true) << "/>";
     }
     out.svg.push_back(curve.Take());
     fTerms.WriteSVG(*this, out);

@@ -48,10 +48,8 @@ void TVGRBaseEllipse::WriteSVG(TSVGOutput& out) const {
     if (!Draws())
         return;
     SvgElement figure = out.Element();
-    (figure << "<ellipse" << GetSVGID(out) << " cx=\"").Val(FromBase(fBaseX)) << "\" cy=\"";
-    figure.Val(FromBase(fBaseY)) << "\" rx=\"";
-    figure.Val(FromBase(fBaseRadioX)) << "\" ry=\"";
-    figure.Val(FromBase(fBaseRadioY)) << (fFill ? "\" " : "\"");
+    (figure << "<ellipse" << GetSVGID(out)).Attr("cx", FromBase(fBaseX)).Attr("cy", FromBase(fBaseY));
+    figure.Attr("rx", FromBase(fBaseRadioX)).Attr("ry", FromBase(fBaseRadioY)) << (fFill ? " " : "");
     WriteFill(figure) << " ";
     WriteStroke(figure, fLineType) << "/>";
     out.svg.push_back(figure.Take());

@@ -98,12 +98,10 @@ void TVGRBaseRectangle::ReadFields(std::int32_t version, TBinaryReader& reader) 
 
 void TVGRBaseRectangle::WriteSVG(TSVGOutput& out) const {
     SvgElement box = out.Element();
-    (box << "<rect" << GetSVGID(out) << " x=\"").Val(GetPointMMX(1)) << "\" y=\"";
-    box.Val(GetPointMMY(1)) << "\" width=\"";
-    box.Val(FromBase(BaseWidth())) << "\" height=\"";
-    box.Val(FromBase(BaseHeight())) << "\" ";
+    box << "<rect" << GetSVGID(out);
+    box.Box(GetPointMMX(1), GetPointMMY(1), FromBase(BaseWidth()), FromBase(BaseHeight())) << " ";
     if (fRadio != 0)
-        (box << " rx=\"").Val(GetMMRadio()) << "\" ";
+        box.Attr("rx", GetMMRadio()) << " ";
     WriteFill(box) << " ";
     WriteStroke(box, fLineType) << "/>";
     out.svg.push_back(box.Take());

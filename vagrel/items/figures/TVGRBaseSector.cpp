@@ -7,10 +7,26 @@
 #include <vagrel/foundation/TDraw2D.h>
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <numbers>
 
 namespace vagrel {
+
+namespace {
+
+// Whether two places are the same as written, where a whole number has no decimals and one that rounds to it has.
+bool SamePlace(const std::string& one, const std::string& other) {
+    auto numbers = [](const std::string& text) {
+        std::pair<double, double> place;
+        const char* const end = text.data() + text.size();
+        std::from_chars(std::from_chars(text.data(), end, place.first).ptr + 1, end, place.second);
+        return place;
+    };
+    return numbers(one) == numbers(other);
+}
+
+} // namespace
 
 TVGRBaseSector::TVGRBaseSector(TVGRBaseLabel& owner, bool preview) : TVGRRoundItem(owner, itSector, preview) {}
 
@@ -130,22 +146,22 @@ void TVGRBaseSector::WriteSVG(TSVGOutput& out) const {
         return WriteCircle(out);
     if (!Draws())
         return;
-    SvgElement slice = out.Element();
     auto place = [&](TPoint2D away) {
-        slice.Val(float(fOwner.ToPaper(double(fBaseX) + away.X))) << ",";
-        slice.Val(float(fOwner.ToPaper(double(fBaseY) + away.Y)));
+        SvgElement text = out.Element();
+        text.Val(float(fOwner.ToPaper(double(fBaseX) + away.X))) << ",";
+        return text.Val(float(fOwner.ToPaper(double(fBaseY) + away.Y))).Take();
     };
-    slice << "<path" << GetSVGID(out) << " d=\"M";
-    place({0, 0});
-    slice << " L";
-    place(ToRim(fCalcStart));
+    const std::string start = place(ToRim(fCalcStart)), end = place(ToRim(fCalcStart + fAngleGap));
+    // Between equal ends an arc is nothing at all to a renderer.
+    if (out.wellFormed && fAngleGap > 180 && SamePlace(start, end))
+        return WriteCircle(out);
+    SvgElement slice = out.Element();
+    slice << "<path" << GetSVGID(out) << " d=\"M" << place({0, 0}) << " L" << start;
     (slice << " A").Val(FromBase(fBaseRadioX)) << ",";
     slice.Val(FromBase(fBaseRadioX)) << " 0 " << (fAngleGap > 180 ? "1" : "0") << ",1 ";
-    place(ToRim(fCalcStart + fAngleGap));
-    slice << (fFill ? " Z\" " : " Z\"");
+    slice << end << (fFill ? " Z\" " : " Z\"");
     WriteFill(slice) << " ";
-    slice.Stroke(fColor) << " stroke-width=\"";
-    (slice.Pen(GetPenWidth()) << "\" ").Dash(fLineType) << "/>";
+    (slice.Stroke(fColor).StrokeWidth(GetPenWidth()) << " ").Dash(fLineType) << "/>";
     out.svg.push_back(slice.Take());
 }
 

@@ -81,12 +81,10 @@ void TVGRRoundItem::WriteCircle(TSVGOutput& out) const {
     if (!Draws())
         return;
     SvgElement circle = out.Element();
-    (circle << "<circle" << GetSVGID(out) << " cx=\"").Val(FromBase(fBaseX)) << "\" cy=\"";
-    circle.Val(FromBase(fBaseY)) << "\" r=\"";
-    circle.Val(FromBase(fBaseRadioX)) << (fFill ? "\" " : "\"");
+    (circle << "<circle" << GetSVGID(out)).Attr("cx", FromBase(fBaseX)).Attr("cy", FromBase(fBaseY));
+    circle.Attr("r", FromBase(fBaseRadioX)) << (fFill ? " " : "");
     WriteFill(circle) << " ";
-    circle.Stroke(fColor) << " stroke-width=\"";
-    (circle.Pen(GetPenWidth()) << "\" ").Dash(fLineType) << "/>";
+    (circle.Stroke(fColor).StrokeWidth(GetPenWidth()) << " ").Dash(fLineType) << "/>";
     out.svg.push_back(circle.Take());
 }
 

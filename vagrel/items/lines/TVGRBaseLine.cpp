@@ -33,11 +33,9 @@ void TVGRBaseLine::CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& pro
 
 void TVGRBaseLine::WriteSVG(TSVGOutput& out) const {
     SvgElement line = out.Element();
-    (line << "<line" << GetSVGID(out) << " x1=\"").Val(GetPointMMX(1)) << "\" y1=\"";
-    line.Val(GetPointMMY(1)) << "\" x2=\"";
-    line.Val(GetPointMMX(2)) << "\" y2=\"";
-    (line.Val(GetPointMMY(2)) << "\" ").Stroke(fColor) << " stroke-width=\"";
-    (line.Pen(GetPenWidth()) << "\"").Dash(fLineType) << "/>";
+    (line << "<line" << GetSVGID(out)).Attr("x1", GetPointMMX(1)).Attr("y1", GetPointMMY(1));
+    line.Attr("x2", GetPointMMX(2)).Attr("y2", GetPointMMY(2)) << " ";
+    line.Stroke(fColor).StrokeWidth(GetPenWidth()).Dash(fLineType) << "/>";
     out.svg.push_back(line.Take());
 }
 

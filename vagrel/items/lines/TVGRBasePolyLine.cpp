@@ -48,8 +48,8 @@ void TVGRBasePolyLine::WriteSVG(TSVGOutput& out) const {
     SvgElement chain = out.Element();
     chain << "<polyline" << GetSVGID(out) << " points=\"";
     WritePoints(chain, 1);
-    (chain << "\" ").Stroke(fColor) << " fill=\"none\" stroke-width=\"";
-    (chain.Pen(GetPenWidth()) << "\"").Dash(fLineType) << "/>";
+    (chain << "\" ").Stroke(fColor) << " fill=\"none\"";
+    chain.StrokeWidth(GetPenWidth()).Dash(fLineType) << "/>";
     out.svg.push_back(chain.Take());
     fTerms.WriteSVG(*this, out);
 }

@@ -105,12 +105,12 @@ void TVGRBaseText::WriteSVG(TSVGOutput& out) const {
     transform << "scale(" << TExSVG::GetVal(fScaleX, 1, out.ExportType) << ", 1)\"";
 
     SvgElement text = out.Element();
-    (text << "<text" << GetSVGID(out) << " x=\"").Val(float(double(x) / double(fScaleX))) << "\" y=\"";
     const float below =
         out.portable ? BaselineBelow(fVertAlign, GetBaseValue(fMeasured.ascent), GetBaseValue(fMeasured.descent)) : 0;
-    text.Val(y + below) << "\" font-family=\"" << fFont.name
-                        << TExSVG::GetTextStyle(fFont.bold, fFont.italic, fFont.underline) << "\" font-size=\"";
-    (text.Val(float(double(GetFontHeight()) * fMeasured.ratio)) << "\" ").Fill(fFont.color)
+    (text << "<text" << GetSVGID(out)).Attr("x", float(double(x) / double(fScaleX))).Attr("y", y + below)
+        << " font-family=\"";
+    text.Name(fFont.name) << TExSVG::GetTextStyle(fFont.bold, fFont.italic, fFont.underline) << "\"";
+    (text.Attr("font-size", float(double(GetFontHeight()) * fMeasured.ratio)) << " ").Fill(fFont.color)
         << " xml:space=\"preserve\"" << TextAnchor(fHorzAlign, fVertAlign, out.portable) << transform.Take() << ">";
     text.Text(fText) << "</text>";
     out.svg.push_back(text.Take());

@@ -11,10 +11,8 @@ void WriteTextFrame(TSVGOutput& out, const TVGRBaseItem& item, const TTextFrame&
         return;
     const TKSLRect& box = item.BoundsRect();
     SvgElement rect = out.Element();
-    (rect << "<rect x=\"").Val(item.GetMM(box.Left)) << "\" y=\"";
-    rect.Val(item.GetMM(box.Top)) << "\" width=\"";
-    rect.Val(item.GetMM(box.GetWidth())) << "\" height=\"";
-    rect.Val(item.GetMM(box.GetHeight())) << "\" ";
+    rect << "<rect";
+    rect.Box(item.GetMM(box.Left), item.GetMM(box.Top), item.GetMM(box.GetWidth()), item.GetMM(box.GetHeight())) << " ";
     if (frame.radius != 0)
         (rect << " rx=\"").Pen(frame.radius) << "\" ";
     else
@@ -23,8 +21,7 @@ void WriteTextFrame(TSVGOutput& out, const TVGRBaseItem& item, const TTextFrame&
         rect.Fill(frame.backColor);
     else
         rect << " fill=\"none\" ";
-    rect.Stroke(item.GetColor()) << " stroke-width=\"";
-    rect.Pen(item.GetPenWidth()) << "\"/>";
+    rect.Stroke(item.GetColor()).StrokeWidth(item.GetPenWidth()) << "/>";
     out.svg.push_back(rect.Take());
 }
 
