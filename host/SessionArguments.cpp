@@ -67,6 +67,7 @@ TJsonArray& SessionArguments::Array(std::u16string_view name) const {
 std::vector<std::int64_t> SessionArguments::Longs(std::u16string_view name) const {
     std::vector<std::int64_t> numbers;
     const TJsonArray& array = Array(name);
+    numbers.reserve(std::size_t(array.Count()));
     for (int i = 0; i < array.Count(); ++i)
         numbers.push_back(Whole(name, array.ItemAt(i)));
     return numbers;
