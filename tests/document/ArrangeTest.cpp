@@ -337,7 +337,11 @@ TEST_F(Arrange, TurnsTheLabel) {
     EXPECT_EQ(sheet.GetMeasure().GetSize(mtLabelWidth, true), 35000);
     EXPECT_EQ(sheet.GetMeasure().GetSize(mtPaperHeight, true), 210000);
     EXPECT_EQ(box.BoundsRect(), (TKSLRect{2000, 54000, 6000, 59000}));
-    EXPECT_TRUE(sheet.IsUndoEmpty());
+    const auto turned = JsonOf(sheet);
+    EXPECT_EQ(UndoAll(sheet), 1);
+    EXPECT_EQ(JsonOf(sheet), start);
+    EXPECT_EQ(RedoAll(sheet), 1);
+    EXPECT_EQ(JsonOf(sheet), turned);
     sheet.RotateRight();
     EXPECT_EQ(JsonOf(sheet), start);
     sheet.RotateRight();

@@ -195,7 +195,9 @@ TEST_F(Hostile, TheSelectionBearsHandlersThatAddAndDelete) {
         [&] { label.DeleteSelection(); },
         [&] { label.SelectNext(); },
         [&] { label.SearchSelection(15000, 12000, 100, {}, true); },
-        [&] { label.SearchRectangle({0, 0, 90000, 90000}, true); },
+        [&] {
+            label.SearchRectangle({0, 0, 90000, 90000}, true);
+        },
         [&] { label.AlignObjects(oaLeft); },
         [&] { label.CenterHorizontal(); },
         [&] { label.SpaceHorizontal(1); },

@@ -35,8 +35,9 @@ TVGRBaseItem& MakeSample(TVGRBaseLabel& label, const TItemSample& sample);
 
 using TSetter = std::function<void()>;
 
-/// One for every property of every capability that the item answers to. Each expects to read back what it sets.
-std::vector<TSetter> SettersOf(TVGRBaseItem& item);
+/// One for every property of every capability that the item answers to. Each expects to read back what it sets, unless
+/// the item stands where setters cut their values.
+std::vector<TSetter> SettersOf(TVGRBaseItem& item, bool expect = true);
 
 /// Calls all of them.
 void SetEverything(TVGRBaseItem& item);

@@ -65,6 +65,8 @@ struct TQRCode {
 
     /// True when all numbers are set and agree with each other and with the matrix.
     bool IsValid() const;
+
+    bool operator==(const TQRCode&) const = default;
 };
 
 } // namespace vagrel

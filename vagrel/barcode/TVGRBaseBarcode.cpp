@@ -79,9 +79,7 @@ void TVGRBaseBarcode::SetCheckSum(bool value) {
     StateCalc();
 }
 
-void TVGRBaseBarcode::SetCheckType(TKSLCheckType value) {
-    Store(fCheckType, value, {}, TFollow::Modified);
-}
+void TVGRBaseBarcode::SetCheckType(TKSLCheckType value) { Store(fCheckType, value, {}, TFollow::Modified); }
 
 void TVGRBaseBarcode::SetIgnoreParentheses(bool value) {
     if (!Store(fIgnoreParentheses, value, {}, TFollow::None))
@@ -113,6 +111,7 @@ void TVGRBaseBarcode::Encode() {
 }
 
 void TVGRBaseBarcode::CalcValues(int kind) {
+    Touch();
     TVGRBaseCode::CalcValues(kind);
     Encode();
     UpdatePoints();
@@ -140,7 +139,9 @@ void TVGRBaseBarcode::SetFontName(std::u16string_view value) {
     Store(fFontName, std::u16string(value), {}, TFollow::Calc);
 }
 
-void TVGRBaseBarcode::SetFontHeight(float value) { Store(fFontHeight, std::max(ToBase(value), SmallestFont), {}, TFollow::Calc); }
+void TVGRBaseBarcode::SetFontHeight(float value) {
+    Store(fFontHeight, std::max(ToBase(value), SmallestFont), {}, TFollow::Calc);
+}
 
 float TVGRBaseBarcode::GetDrawValue(float value, int dpi) const { return fOwner.GetDrawValue(value, dpi); }
 

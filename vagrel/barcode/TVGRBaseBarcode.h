@@ -13,6 +13,8 @@ struct TDigitMeasure {
     std::int32_t descent = 636; ///< and the gap above the digits, which the box has no other place for
     std::int32_t posUnderline = 0, lineSize = 0;
     double ratio = 1; ///< drawn font height to nominal font height
+
+    bool operator==(const TDigitMeasure&) const = default;
 };
 
 /// A group of digits on the page: the top of the text, where it starts, is centred or ends; base coordinates.
@@ -87,7 +89,7 @@ public:
     void SetFontHeight(float value);
     std::int32_t BaseFontHeight() const { return fFontHeight; }
     const TDigitMeasure& Measured() const { return fMeasured; }
-    void StoreDigitMeasure(const TDigitMeasure& measure) { fMeasured = measure; }
+    void StoreDigitMeasure(const TDigitMeasure& measure) { Put(fMeasured, measure); }
     std::vector<TPlacedDigits> Digits() const { return Digits(fCCode, fDrCode); }
 
     float GetDrawValue(float value, int dpi) const override;
@@ -96,14 +98,13 @@ public:
     std::vector<TKSLRect> DarkRects() const override { return Bars(fDrCode); }
     void CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& props) const override;
     void WriteSVG(TSVGOutput& out) const override;
+    void Members(TMembers& members) override;
 
 protected:
     void StoreCode(std::u16string_view value) override;
     void MeasureSymbol() override;
-    void WriteKeys(TJsonObject& json) const override;
-    void ReadKeys(std::int32_t version, TJsonObject& json) override;
-    void WriteFields(TBinaryWriter& writer) const override;
-    void ReadFields(std::int32_t version, TBinaryReader& reader) override;
+    void Keys(TJsonFields& keys) override;
+    void Fields(TBinaryFields& fields) override;
 
 private:
     static constexpr std::int32_t SmallestFont = 1000;

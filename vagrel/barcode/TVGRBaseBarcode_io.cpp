@@ -6,14 +6,22 @@
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Units.h>
 #include <vagrel/items/text/TextSvg.h>
-#include <vagrel/persistence/TBinaryWriter.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TBinaryFields.h>
+#include <vagrel/persistence/TJsonFields.h>
 
 #include <algorithm>
 
 namespace vagrel {
 
+void TVGRBaseBarcode::Members(TMembers& members) {
+    TVGRBaseCode::Members(members);
+    members(fDistance, fShowNumber, fCheckSum, fCheckType, fCodeType, f128Auto, fIgnoreParentheses, fFontName,
+            fFontHeight, fMeasured, fCCode, fDrCode, fIsValid);
+}
+
 void TVGRBaseBarcode::TakeRead() {
+    LimitSizes();
+    StoreCode(std::u16string(fCode)); // behind the flags that it needs
     fFontHeight = std::max(fFontHeight, SmallestFont);
     aIsData = fBinding.IsSet();
     CheckFactor();
@@ -21,80 +29,38 @@ void TVGRBaseBarcode::TakeRead() {
     StateCalc(); // lets a host measure the digits
 }
 
-void TVGRBaseBarcode::WriteKeys(TJsonObject& json) const {
-    TVGRBaseCode::WriteKeys(json);
-    json.SetInt(u"CodeType", fCodeType);
-    json.SetInt(u"CheckType", fCheckType);
-    json.SetInt(u"HorzAlign", fHorzAlign);
-    json.SetInt(u"AutoType128", f128Auto);
-    WriteBarKeys(json);
-    json.SetFloat(u"Distance", RoundTo3(GetDistance()));
-    WritePaddingKeys(json);
-    json.SetFloat(u"Factor", RoundTo3(fFactor));
-    json.SetString(u"Code", fCode);
-    json.SetBool(u"IgnoreParentheses", fIgnoreParentheses);
-    json.SetBool(u"CheckSum", fCheckSum);
-    json.SetBool(u"ShowNumber", fShowNumber);
-    TJsonObject& font = json.AddObject(u"Font");
-    font.SetString(u"Name", fFontName);
-    font.SetFloat(u"FontHeight", RoundTo3(GetFontHeight()));
-    fBinding.WriteJson(json);
+void TVGRBaseBarcode::Keys(TJsonFields& keys) {
+    TVGRBaseCode::Keys(keys);
+    keys(u"CodeType", fCodeType);
+    keys(u"CheckType", fCheckType);
+    keys(u"HorzAlign", fHorzAlign);
+    keys(u"AutoType128", f128Auto);
+    BarKeys(keys);
+    SizeKey(keys, u"Distance", fDistance);
+    PaddingKeys(keys);
+    keys(u"Factor", fFactor);
+    keys(u"Code", fCode);
+    keys(u"IgnoreParentheses", fIgnoreParentheses);
+    keys(u"CheckSum", fCheckSum);
+    keys(u"ShowNumber", fShowNumber);
+    keys.Inner(u"Font", [this](TJsonFields& font) {
+        font(u"Name", fFontName);
+        SizeKey(font, u"FontHeight", fFontHeight);
+    });
+    fBinding.Keys(keys);
+    if (keys.Reads())
+        TakeRead();
 }
 
-void TVGRBaseBarcode::ReadKeys(std::int32_t version, TJsonObject& json) {
-    TVGRBaseCode::ReadKeys(version, json);
-    fCodeType = TKSLBarType(json.GetInt(u"CodeType"));
-    fCheckType = TKSLCheckType(json.GetInt(u"CheckType"));
-    fHorzAlign = TKSLHorzAlign(json.GetInt(u"HorzAlign"));
-    f128Auto = TKSL128AutoType(json.GetInt(u"AutoType128"));
-    ReadBarKeys(json);
-    fDistance = ToBase(float(json.GetFloat(u"Distance")));
-    fFactor = float(json.GetFloat(u"Factor"));
-    fIgnoreParentheses = json.GetBool(u"IgnoreParentheses");
-    fCheckSum = json.GetBool(u"CheckSum");
-    fShowNumber = json.GetBool(u"ShowNumber");
-    StoreCode(json.GetString(u"Code"));
-    TJsonObject& font = json.GetObject(u"Font");
-    fFontName = font.GetString(u"Name");
-    fFontHeight = ToBase(float(font.GetFloat(u"FontHeight")));
-    fBinding.ReadJson(json);
-    TakeRead();
-}
-
-void TVGRBaseBarcode::WriteFields(TBinaryWriter& writer) const {
-    TVGRBaseCode::WriteFields(writer);
-    writer.Write(std::int32_t(fCodeType));
-    writer.Write(std::int32_t(fCheckType));
-    writer.Write(std::int32_t(f128Auto));
-    writer.Write(std::int16_t(fHorzAlign));
-    for (const std::int32_t size : {fBarWidth, fBarHeight, fDistance, fPaddingX, fPaddingY})
-        writer.Write(size);
-    writer.Write(fFontName);
-    writer.Write(fFontHeight);
-    writer.Write(fFactor);
-    for (const bool flag : {fShowNumber, fCheckSum, fIgnoreParentheses})
-        writer.Write(flag);
-    writer.Write(fCode);
-    fBinding.WriteData(writer);
-}
-
-void TVGRBaseBarcode::ReadFields(std::int32_t version, TBinaryReader& reader) {
-    TVGRBaseCode::ReadFields(version, reader);
-    fCodeType = TKSLBarType(reader.Read<std::int32_t>());
-    fCheckType = TKSLCheckType(reader.Read<std::int32_t>());
-    f128Auto = TKSL128AutoType(reader.Read<std::int32_t>());
-    fHorzAlign = TKSLHorzAlign(reader.Read<std::int16_t>());
-    for (std::int32_t* size : {&fBarWidth, &fBarHeight, &fDistance, &fPaddingX, &fPaddingY})
-        *size = reader.Read<std::int32_t>();
-    StoreLimited(fBarWidth, fBarHeight, fPaddingX, fPaddingY);
-    fFontName = reader.ReadString();
-    fFontHeight = reader.Read<std::int32_t>();
-    fFactor = reader.Read<float>();
-    for (bool* flag : {&fShowNumber, &fCheckSum, &fIgnoreParentheses})
-        *flag = reader.ReadBool();
-    StoreCode(reader.ReadString());
-    fBinding.ReadData(reader);
-    TakeRead();
+void TVGRBaseBarcode::Fields(TBinaryFields& fields) {
+    TVGRBaseCode::Fields(fields);
+    fields(fCodeType, fCheckType, f128Auto);
+    fields.As<std::int16_t>(fHorzAlign);
+    fields(fBarWidth, fBarHeight, fDistance, fPaddingX, fPaddingY, fFontName, fFontHeight, fFactor);
+    fields(fShowNumber, fCheckSum, fIgnoreParentheses, fCode);
+    fBinding.Fields(fields);
+    if (fields.Reads())
+        TakeRead();
 }
 
 void TVGRBaseBarcode::WriteSVG(TSVGOutput& out) const {

@@ -7,7 +7,7 @@
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/items/text/LabelPosition.h>
 #include <vagrel/merge/TVGRData.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TJsonFields.h>
 
 #include <algorithm>
 
@@ -33,6 +33,7 @@ std::string TVGRBaseCode::GetAnsiCode() const { return {fCode.begin(), fCode.end
 void TVGRBaseCode::SetCode(std::u16string_view value) {
     if (value == fCode)
         return;
+    Touch();
     StoreCode(value);
     StateCalc();
 }
@@ -43,6 +44,7 @@ float TVGRBaseCode::ToUnit(std::int32_t base) const { return fOwner.GetVal(base,
 std::int32_t TVGRBaseCode::ToBase(float value) const { return ToInt32(fOwner.SetVal(value, true)); }
 
 void TVGRBaseCode::SizeStored() {
+    Touch();
     MeasureSymbol();
     UpdatePoints();
     StateUpdate();
@@ -71,11 +73,17 @@ void TVGRBaseCode::StorePadding(std::int32_t& field, float value) {
         SizeStored();
 }
 
-void TVGRBaseCode::StoreLimited(std::int64_t width, std::int64_t height, std::int64_t paddingX, std::int64_t paddingY) {
-    fBarWidth = ToInt32(std::max<std::int64_t>(width, fLeastWidth));
-    fBarHeight = ToInt32(std::max<std::int64_t>(height, fLeastHeight));
-    fPaddingX = ToInt32(std::max<std::int64_t>(paddingX, 0));
-    fPaddingY = ToInt32(std::max<std::int64_t>(paddingY, 0));
+void TVGRBaseCode::LimitSizes() {
+    fBarWidth = std::max(fBarWidth, fLeastWidth);
+    fBarHeight = std::max(fBarHeight, fLeastHeight);
+    fPaddingX = std::max(fPaddingX, 0);
+    fPaddingY = std::max(fPaddingY, 0);
+}
+
+void TVGRBaseCode::Members(TMembers& members) {
+    TVGR2DItem::Members(members);
+    members(fCode, fBarWidth, fBarHeight, fPaddingX, fPaddingY, fFactor, fHorzAlign, fVertAlign, fBarCodeWidth,
+            fBarCodeHeight, fBinding);
 }
 
 // Place
@@ -83,18 +91,21 @@ void TVGRBaseCode::StoreLimited(std::int64_t width, std::int64_t height, std::in
 void TVGRBaseCode::SetAngle(TKSLAngle value) { Store(fAngle, value, cmd::Angle, TFollow::Bounds); }
 
 void TVGRBaseCode::RotateLeft() {
+    Touch();
     fAngle = fAngle >= ag0 && fAngle < ag270 ? TKSLAngle(fAngle + 1) : ag0;
     At(1) = {At(1).bY, SubSat(fOwner.GetMeasure().GetSize(mtLabelHeight, true), At(1).bX)};
     UpdatePoints();
 }
 
 void TVGRBaseCode::RotateRight() {
+    Touch();
     fAngle = fAngle > ag0 && fAngle <= ag270 ? TKSLAngle(fAngle - 1) : ag270;
     At(1) = {SubSat(fOwner.GetMeasure().GetSize(mtLabelWidth, true), At(1).bY), At(1).bX};
     UpdatePoints();
 }
 
 void TVGRBaseCode::UpdateBounds() {
+    Touch();
     const std::int64_t scale = fOwner.GetMeasure().GetDrawScale();
     At(2) = {AddSat(At(1).bX, MulSat(fBarCodeWidth, scale)), AddSat(At(1).bY, MulSat(fBarCodeHeight, scale))};
     fBoundsRect = {At(1).bX, At(1).bY, At(2).bX, At(2).bY};
@@ -134,6 +145,7 @@ TKSLFillType TVGRBaseCode::FillType() const { return fOwner.GetData().GetLinkDat
 std::u16string TVGRBaseCode::SymFillName() const { return fBinding.Symbolic(); }
 
 void TVGRBaseCode::SetData(TKSLFillType type, std::u16string_view name, std::u16string_view format) {
+    Touch();
     fBinding.Set(type, name, format);
     aIsData = fBinding.IsSet();
     StateCalc();
@@ -144,6 +156,7 @@ bool TVGRBaseCode::GetIsData() const { return aIsData && fOwner.GetData().IsVali
 void TVGRBaseCode::FillData(bool update) {
     if (!fOwner.GetData().IsValidData(FillType(), FillName()))
         return;
+    Touch();
     StoreCode(fOwner.DataValue(FillName(), GetFormat(), FillType()));
     if (update)
         CalcValues(2);
@@ -151,19 +164,18 @@ void TVGRBaseCode::FillData(bool update) {
 
 // Files and SVG
 
-void TVGRBaseCode::WriteBarKeys(TJsonObject& json) const {
-    json.SetFloat(u"BarWidth", RoundTo3(GetBarWidth()));
-    json.SetFloat(u"BarHeight", RoundTo3(GetBarHeight()));
+void TVGRBaseCode::SizeKey(TJsonFields& keys, std::u16string_view key, std::int32_t& field) {
+    keys.Number(key, ToUnit(field), [&](float value) { field = ToBase(value); });
 }
 
-void TVGRBaseCode::WritePaddingKeys(TJsonObject& json) const {
-    json.SetFloat(u"PaddingX", RoundTo3(GetPaddingX()));
-    json.SetFloat(u"PaddingY", RoundTo3(GetPaddingY()));
+void TVGRBaseCode::BarKeys(TJsonFields& keys) {
+    SizeKey(keys, u"BarWidth", fBarWidth);
+    SizeKey(keys, u"BarHeight", fBarHeight);
 }
 
-void TVGRBaseCode::ReadBarKeys(TJsonObject& json) {
-    auto base = [&](std::u16string_view key) { return ToBase(float(json.GetFloat(key))); };
-    StoreLimited(base(u"BarWidth"), base(u"BarHeight"), base(u"PaddingX"), base(u"PaddingY"));
+void TVGRBaseCode::PaddingKeys(TJsonFields& keys) {
+    SizeKey(keys, u"PaddingX", fPaddingX);
+    SizeKey(keys, u"PaddingY", fPaddingY);
 }
 
 namespace {

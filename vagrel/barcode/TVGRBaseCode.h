@@ -78,6 +78,8 @@ public:
     /// The value of the current record becomes the text.
     void FillData(bool update) override;
 
+    void Members(TMembers& members) override;
+
 protected:
     TVGRBaseCode(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview, const TCodeSizes& sizes);
 
@@ -95,11 +97,12 @@ protected:
     /// A rectangle along and across the symbol, from the corner of the box where it starts, on the page.
     TKSLRect Place(const TKSLRect& rect) const;
 
-    // The sizes in files. Reading keeps them within their limits.
-    void WriteBarKeys(TJsonObject& json) const;
-    void WritePaddingKeys(TJsonObject& json) const;
-    void ReadBarKeys(TJsonObject& json);
-    void StoreLimited(std::int64_t width, std::int64_t height, std::int64_t paddingX, std::int64_t paddingY);
+    // The sizes in files. What follows a reading keeps them within their limits.
+    void BarKeys(TJsonFields& keys);
+    void PaddingKeys(TJsonFields& keys);
+    /// A length in the unit of the sizes.
+    void SizeKey(TJsonFields& keys, std::u16string_view key, std::int32_t& field);
+    void LimitSizes();
 
     /// The frame in the back colour.
     void WriteFrame(TSVGOutput& out) const;

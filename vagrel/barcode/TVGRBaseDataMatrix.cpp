@@ -4,8 +4,8 @@
 
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/foundation/Exceptions.h>
-#include <vagrel/persistence/TBinaryWriter.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TBinaryFields.h>
+#include <vagrel/persistence/TJsonFields.h>
 
 namespace vagrel {
 
@@ -39,36 +39,25 @@ void TVGRBaseDataMatrix::Encode() {
     MeasureSymbol();
 }
 
-void TVGRBaseDataMatrix::WriteKeys(TJsonObject& json) const {
-    TVGRBaseMatrixCode::WriteKeys(json);
-    json.SetInt(u"DMSize", fDMSize);
-    json.SetInt(u"DMShape", fDMShape);
-    WriteSizeKeys(json);
-    WriteCodeKeys(json);
+void TVGRBaseDataMatrix::Members(TMembers& members) {
+    TVGRBaseMatrixCode::Members(members);
+    members(fDMSize, fDMShape);
 }
 
-void TVGRBaseDataMatrix::ReadKeys(std::int32_t version, TJsonObject& json) {
-    TVGRBaseMatrixCode::ReadKeys(version, json);
-    fDMSize = TECC200Size(json.GetInt(u"DMSize"));
-    fDMShape = TECC200Shape(json.GetInt(u"DMShape"));
-    ReadSizeKeys(json);
-    ReadCodeKeys(json);
+void TVGRBaseDataMatrix::Keys(TJsonFields& keys) {
+    TVGRBaseMatrixCode::Keys(keys);
+    keys(u"DMSize", fDMSize);
+    keys(u"DMShape", fDMShape);
+    SizeKeys(keys);
+    CodeKeys(keys);
 }
 
-void TVGRBaseDataMatrix::WriteFields(TBinaryWriter& writer) const {
-    TVGRBaseMatrixCode::WriteFields(writer);
-    writer.Write(std::int32_t(fDMSize));
-    writer.Write(std::uint8_t(fDMShape));
-    WriteSizeFields(writer);
-    WriteCodeFields(writer);
-}
-
-void TVGRBaseDataMatrix::ReadFields(std::int32_t version, TBinaryReader& reader) {
-    TVGRBaseMatrixCode::ReadFields(version, reader);
-    fDMSize = TECC200Size(reader.Read<std::int32_t>());
-    fDMShape = TECC200Shape(reader.Read<std::uint8_t>());
-    ReadSizeFields(reader);
-    ReadCodeFields(reader);
+void TVGRBaseDataMatrix::Fields(TBinaryFields& fields) {
+    TVGRBaseMatrixCode::Fields(fields);
+    fields.As<std::int32_t>(fDMSize);
+    fields.As<std::uint8_t>(fDMShape);
+    SizeFields(fields);
+    CodeFields(fields);
 }
 
 } // namespace vagrel

@@ -21,12 +21,11 @@ public:
     void SetDMShape(TECC200Shape value) { Store(fDMShape, value, {}, TFollow::Calc); }
     bool IsValid() const override { return !fGrid.dark.empty(); }
     void Encode() final;
+    void Members(TMembers& members) override;
 
 protected:
-    void WriteKeys(TJsonObject& json) const override;
-    void ReadKeys(std::int32_t version, TJsonObject& json) override;
-    void WriteFields(TBinaryWriter& writer) const override;
-    void ReadFields(std::int32_t version, TBinaryReader& reader) override;
+    void Keys(TJsonFields& keys) override;
+    void Fields(TBinaryFields& fields) override;
 
 private:
     TECC200Size fDMSize = ecc200_Autosize;

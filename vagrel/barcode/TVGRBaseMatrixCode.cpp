@@ -3,8 +3,8 @@
 #include <vagrel/barcode/TVGRBaseMatrixCode.h>
 
 #include <vagrel/foundation/Rounding.h>
-#include <vagrel/persistence/TBinaryWriter.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TBinaryFields.h>
+#include <vagrel/persistence/TJsonFields.h>
 
 #include <algorithm>
 
@@ -37,6 +37,7 @@ void TVGRBaseMatrixCode::MeasureSymbol() {
 }
 
 void TVGRBaseMatrixCode::CalcValues(int kind) {
+    Touch();
     TVGRBaseCode::CalcValues(kind);
     Encode();
     UpdatePoints();
@@ -66,64 +67,44 @@ void TVGRBaseMatrixCode::WriteSVG(TSVGOutput& out) const {
 
 // Files
 
+void TVGRBaseMatrixCode::Members(TMembers& members) {
+    TVGRBaseCode::Members(members);
+    members(fGrid);
+}
+
 void TVGRBaseMatrixCode::TakeRead() {
+    LimitSizes();
+    StoreCode(std::u16string(fCode));
     fFactor = fFactor > 0 ? fFactor : 0;
     aIsData = fBinding.IsSet();
     Encode();
 }
 
-void TVGRBaseMatrixCode::WriteSizeKeys(TJsonObject& json) const {
-    WriteBarKeys(json);
-    json.SetInt(u"HorzAlign", fHorzAlign);
-    json.SetInt(u"VertAlign", fVertAlign);
-    WritePaddingKeys(json);
-    json.SetFloat(u"Factor", RoundTo3(fFactor));
+void TVGRBaseMatrixCode::SizeKeys(TJsonFields& keys) {
+    BarKeys(keys);
+    keys(u"HorzAlign", fHorzAlign);
+    keys(u"VertAlign", fVertAlign);
+    PaddingKeys(keys);
+    keys(u"Factor", fFactor);
 }
 
-void TVGRBaseMatrixCode::ReadSizeKeys(TJsonObject& json) {
-    ReadBarKeys(json);
-    fHorzAlign = TKSLHorzAlign(json.GetInt(u"HorzAlign"));
-    fVertAlign = TKSLVertAlign(json.GetInt(u"VertAlign"));
-    fFactor = float(json.GetFloat(u"Factor"));
+void TVGRBaseMatrixCode::CodeKeys(TJsonFields& keys) {
+    keys(u"Code", fCode);
+    fBinding.Keys(keys);
+    if (keys.Reads())
+        TakeRead();
 }
 
-void TVGRBaseMatrixCode::WriteCodeKeys(TJsonObject& json) const {
-    json.SetString(u"Code", fCode);
-    fBinding.WriteJson(json);
+void TVGRBaseMatrixCode::SizeFields(TBinaryFields& fields) {
+    fields(fBarHeight, fBarWidth, fPaddingX, fPaddingY, fFactor);
 }
 
-void TVGRBaseMatrixCode::ReadCodeKeys(TJsonObject& json) {
-    StoreCode(json.GetString(u"Code"));
-    fBinding.ReadJson(json);
-    TakeRead();
-}
-
-void TVGRBaseMatrixCode::WriteSizeFields(TBinaryWriter& writer) const {
-    for (const std::int32_t size : {fBarHeight, fBarWidth, fPaddingX, fPaddingY})
-        writer.Write(size);
-    writer.Write(fFactor);
-}
-
-void TVGRBaseMatrixCode::ReadSizeFields(TBinaryReader& reader) {
-    for (std::int32_t* size : {&fBarHeight, &fBarWidth, &fPaddingX, &fPaddingY})
-        *size = reader.Read<std::int32_t>();
-    StoreLimited(fBarWidth, fBarHeight, fPaddingX, fPaddingY);
-    fFactor = reader.Read<float>();
-}
-
-void TVGRBaseMatrixCode::WriteCodeFields(TBinaryWriter& writer) const {
-    writer.Write(fCode);
-    fBinding.WriteData(writer);
-    writer.Write(std::int16_t(fHorzAlign));
-    writer.Write(std::int16_t(fVertAlign));
-}
-
-void TVGRBaseMatrixCode::ReadCodeFields(TBinaryReader& reader) {
-    StoreCode(reader.ReadString());
-    fBinding.ReadData(reader);
-    fHorzAlign = TKSLHorzAlign(reader.Read<std::int16_t>());
-    fVertAlign = TKSLVertAlign(reader.Read<std::int16_t>());
-    TakeRead();
+void TVGRBaseMatrixCode::CodeFields(TBinaryFields& fields) {
+    fields(fCode);
+    fBinding.Fields(fields);
+    fields.As<std::int16_t>(fHorzAlign, fVertAlign);
+    if (fields.Reads())
+        TakeRead();
 }
 
 } // namespace vagrel

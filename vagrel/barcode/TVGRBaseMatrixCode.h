@@ -11,6 +11,7 @@ struct TModuleGrid {
     int columns = 0, rows = 0;
     std::vector<std::uint8_t> dark;
 
+    bool operator==(const TModuleGrid&) const = default;
     bool IsDark(int column, int row) const {
         return !dark.empty() && dark[std::size_t(row) * std::size_t(columns) + std::size_t(column)] != 0;
     }
@@ -38,20 +39,18 @@ public:
     std::vector<TKSLRect> DarkRects() const override;
     void CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& props) const override;
     void WriteSVG(TSVGOutput& out) const override;
+    void Members(TMembers& members) override;
 
 protected:
     using TVGRBaseCode::TVGRBaseCode;
 
     void MeasureSymbol() override;
-    // The parts of the files that all three have: sizes, and what follows them.
-    void WriteSizeKeys(TJsonObject& json) const;
-    void ReadSizeKeys(TJsonObject& json);
-    void WriteSizeFields(TBinaryWriter& writer) const;
-    void ReadSizeFields(TBinaryReader& reader);
-    void WriteCodeKeys(TJsonObject& json) const;
-    void ReadCodeKeys(TJsonObject& json);
-    void WriteCodeFields(TBinaryWriter& writer) const;
-    void ReadCodeFields(TBinaryReader& reader);
+    // The parts of the files that all three have: sizes, and what ends the block.
+    void SizeKeys(TJsonFields& keys);
+    void CodeKeys(TJsonFields& keys);
+    /// The height comes first.
+    void SizeFields(TBinaryFields& fields);
+    void CodeFields(TBinaryFields& fields);
 
     TModuleGrid fGrid;
 

@@ -4,8 +4,8 @@
 
 #include <vagrel/barcode/Pdf417Modules.h>
 #include <vagrel/document/TVGRBaseLabel.h>
-#include <vagrel/persistence/TBinaryWriter.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TBinaryFields.h>
+#include <vagrel/persistence/TJsonFields.h>
 
 #include <algorithm>
 
@@ -39,7 +39,7 @@ void TVGRBasePDF417::StoreGrid(std::int16_t& field, int value, int most) {
     value = Limited(value, most);
     if (value == field)
         return;
-    field = std::int16_t(value);
+    Put(field, std::int16_t(value));
     Encode();
     UpdatePoints();
     StateUpdate();
@@ -72,44 +72,33 @@ void TVGRBasePDF417::Encode() {
     MeasureSymbol();
 }
 
-void TVGRBasePDF417::WriteKeys(TJsonObject& json) const {
-    TVGRBaseMatrixCode::WriteKeys(json);
-    json.SetInt(u"CorrecLevel", fCorrecLevel);
-    WriteSizeKeys(json);
-    json.SetBool(u"Truncated", fTruncated);
-    json.SetInt(u"Rows", fRows);
-    json.SetInt(u"Cols", fCols);
-    WriteCodeKeys(json);
+void TVGRBasePDF417::Members(TMembers& members) {
+    TVGRBaseMatrixCode::Members(members);
+    members(fTruncated, fCorrecLevel, fCols, fRows, fEncoder, fCodeWords, fEncoded, fErrorLevel, fNumErrorCWords,
+            fXCount, fYCount);
 }
 
-void TVGRBasePDF417::ReadKeys(std::int32_t version, TJsonObject& json) {
-    TVGRBaseMatrixCode::ReadKeys(version, json);
-    fCorrecLevel = TKSLPdf417CorrectionLevel(json.GetInt(u"CorrecLevel"));
-    ReadSizeKeys(json);
-    fTruncated = json.GetBool(u"Truncated");
-    fRows = Limited(json.GetInt(u"Rows"), MostRows);
-    fCols = Limited(json.GetInt(u"Cols"), MostCols);
-    ReadCodeKeys(json);
+void TVGRBasePDF417::Keys(TJsonFields& keys) {
+    TVGRBaseMatrixCode::Keys(keys);
+    keys(u"CorrecLevel", fCorrecLevel);
+    SizeKeys(keys);
+    keys(u"Truncated", fTruncated);
+    auto limited = [&](std::u16string_view key, std::int16_t& field, int most) {
+        keys.Through(key, std::int32_t(field), [&](std::int32_t value) { field = Limited(value, most); });
+    };
+    limited(u"Rows", fRows, MostRows);
+    limited(u"Cols", fCols, MostCols);
+    CodeKeys(keys);
 }
 
-void TVGRBasePDF417::WriteFields(TBinaryWriter& writer) const {
-    TVGRBaseMatrixCode::WriteFields(writer);
-    writer.Write(std::int32_t(fCorrecLevel));
-    WriteSizeFields(writer);
-    writer.Write(fTruncated);
-    writer.Write(fRows);
-    writer.Write(fCols);
-    WriteCodeFields(writer);
-}
-
-void TVGRBasePDF417::ReadFields(std::int32_t version, TBinaryReader& reader) {
-    TVGRBaseMatrixCode::ReadFields(version, reader);
-    fCorrecLevel = TKSLPdf417CorrectionLevel(reader.Read<std::int32_t>());
-    ReadSizeFields(reader);
-    fTruncated = reader.ReadBool();
-    fRows = Limited(reader.Read<std::int16_t>(), MostRows);
-    fCols = Limited(reader.Read<std::int16_t>(), MostCols);
-    ReadCodeFields(reader);
+void TVGRBasePDF417::Fields(TBinaryFields& fields) {
+    TVGRBaseMatrixCode::Fields(fields);
+    fields.As<std::int32_t>(fCorrecLevel);
+    SizeFields(fields);
+    fields(fTruncated, fRows, fCols);
+    fRows = Limited(fRows, MostRows);
+    fCols = Limited(fCols, MostCols);
+    CodeFields(fields);
 }
 
 } // namespace vagrel

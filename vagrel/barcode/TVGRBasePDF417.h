@@ -33,12 +33,11 @@ public:
     bool ValidCode() const;
     bool IsValid() const override { return ValidCode(); }
     void Encode() final;
+    void Members(TMembers& members) override;
 
 protected:
-    void WriteKeys(TJsonObject& json) const override;
-    void ReadKeys(std::int32_t version, TJsonObject& json) override;
-    void WriteFields(TBinaryWriter& writer) const override;
-    void ReadFields(std::int32_t version, TBinaryReader& reader) override;
+    void Keys(TJsonFields& keys) override;
+    void Fields(TBinaryFields& fields) override;
 
 private:
     void AdjustErrorLevel();

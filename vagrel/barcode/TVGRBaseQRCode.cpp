@@ -4,8 +4,8 @@
 
 #include <vagrel/barcode/TBarcode.h>
 #include <vagrel/document/TVGRBaseLabel.h>
-#include <vagrel/persistence/TBinaryWriter.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TBinaryFields.h>
+#include <vagrel/persistence/TJsonFields.h>
 
 namespace vagrel {
 
@@ -43,32 +43,23 @@ void TVGRBaseQRCode::Encode() {
     MeasureSymbol();
 }
 
-void TVGRBaseQRCode::WriteKeys(TJsonObject& json) const {
-    TVGRBaseMatrixCode::WriteKeys(json);
-    json.SetInt(u"Encoding", fEncoding);
-    WriteSizeKeys(json);
-    WriteCodeKeys(json);
+void TVGRBaseQRCode::Members(TMembers& members) {
+    TVGRBaseMatrixCode::Members(members);
+    members(fEncoding, fEncoder, fLevel, fQRCode);
 }
 
-void TVGRBaseQRCode::ReadKeys(std::int32_t version, TJsonObject& json) {
-    TVGRBaseMatrixCode::ReadKeys(version, json);
-    fEncoding = TQRCodeEncoding(json.GetInt(u"Encoding"));
-    ReadSizeKeys(json);
-    ReadCodeKeys(json);
+void TVGRBaseQRCode::Keys(TJsonFields& keys) {
+    TVGRBaseMatrixCode::Keys(keys);
+    keys(u"Encoding", fEncoding);
+    SizeKeys(keys);
+    CodeKeys(keys);
 }
 
-void TVGRBaseQRCode::WriteFields(TBinaryWriter& writer) const {
-    TVGRBaseMatrixCode::WriteFields(writer);
-    writer.Write(std::int16_t(fEncoding));
-    WriteSizeFields(writer);
-    WriteCodeFields(writer);
-}
-
-void TVGRBaseQRCode::ReadFields(std::int32_t version, TBinaryReader& reader) {
-    TVGRBaseMatrixCode::ReadFields(version, reader);
-    fEncoding = TQRCodeEncoding(reader.Read<std::int16_t>());
-    ReadSizeFields(reader);
-    ReadCodeFields(reader);
+void TVGRBaseQRCode::Fields(TBinaryFields& fields) {
+    TVGRBaseMatrixCode::Fields(fields);
+    fields.As<std::int16_t>(fEncoding);
+    SizeFields(fields);
+    CodeFields(fields);
 }
 
 } // namespace vagrel

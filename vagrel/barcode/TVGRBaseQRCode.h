@@ -20,13 +20,12 @@ public:
     bool IsValid() const override { return !fEncoder.GetEncoderError(); }
     const TQRCode& QRCode() const { return fQRCode; }
     void Encode() final;
+    void Members(TMembers& members) override;
 
 protected:
     void StoreCode(std::u16string_view value) override { fCode = value; }
-    void WriteKeys(TJsonObject& json) const override;
-    void ReadKeys(std::int32_t version, TJsonObject& json) override;
-    void WriteFields(TBinaryWriter& writer) const override;
-    void ReadFields(std::int32_t version, TBinaryReader& reader) override;
+    void Keys(TJsonFields& keys) override;
+    void Fields(TBinaryFields& fields) override;
 
 private:
     TQRCodeEncoding fEncoding = Automatic;

@@ -11,6 +11,8 @@ namespace vagrel {
 struct TErrorCorrectionLevel {
     /// 1 is level L, which is how every symbol is made: with another value readers refuse the symbol.
     std::int32_t FBits = 1;
+
+    bool operator==(const TErrorCorrectionLevel&) const = default;
 };
 
 /// `Count` blocks of `DataCodewords` each.

@@ -154,8 +154,10 @@ void TVGRBaseLabel::SameSize(TKSLAlignType axis) {
 void TVGRBaseLabel::Turn(bool left) {
     if (fEditorMode != emLabelling)
         return;
+    OpenLog(); // one step, although nothing of it is recorded
     fAngle = TKSLAngle((fAngle + (left ? 1 : 3)) & 3);
     {
+        const TFinally step{[this] { CommitLog(false); }};
         const UpdateScope bracket(*this);
         fMeasure->Turn();
         ForEachLiving(fItems, [left](TVGRBaseItem& item) { left ? item.RotateLeft() : item.RotateRight(); });
@@ -176,6 +178,7 @@ void TVGRBaseLabel::MoveInZOrder(bool front) {
     if (at == fItems.end() || at == (front ? fItems.end() - 1 : fItems.begin()))
         return;
     const UpdateScope bracket(*this);
+    ItemsReordering();
     if (front)
         std::rotate(at, at + 1, fItems.end());
     else

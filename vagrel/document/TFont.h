@@ -9,7 +9,7 @@
 
 namespace vagrel {
 
-class TJsonObject;
+class TJsonFields;
 
 /// A font. The height is base units on paper.
 struct TFont {
@@ -18,10 +18,8 @@ struct TFont {
     TAlphaColor color = OpaqueBlack;
     bool bold = false, italic = false, underline = false, strikeout = false;
 
-    /// Stores the object "Font" in `parent`.
-    void WriteJson(TJsonObject& parent) const;
-    /// Reads the object "Font" of `parent`, the height as it stands there, in millimetres.
-    void ReadJson(TJsonObject& parent);
+    /// The object "Font"; the height as it stands there, in millimetres.
+    void Keys(TJsonFields& keys);
 
     friend bool operator==(const TFont&, const TFont&) = default;
 };

@@ -25,7 +25,7 @@ struct TIdentity {
 template <>
 struct TIdentity<TVGRBaseItem> {
     using TKey = std::shared_ptr<TVGRReceiver>;
-    static TKey Of(TVGRBaseItem& item);
+    static TKey Of(TVGRBaseItem& item) { return item.Receiver(); }
     static TVGRBaseItem* Element(const TKey& key) { return key->item; } // null while it is parked
 };
 

@@ -46,6 +46,7 @@ public:
     void operator()(T&... members) {
         (Visit(members), ...);
     }
+    bool Exchanges() const { return fMode == Exchange; }
     /// After a comparison: whether all members are what they were, bit by bit.
     bool Same() const { return fSame; }
 
@@ -116,8 +117,8 @@ void ExchangeImage(T& object, TImage& image) noexcept {
 }
 
 template <class T>
-bool SameAsImage(T& object, TImage& image) {
-    TMembers members(image, TMembers::Compare);
+bool SameAsImage(T& object, const TImage& image) {
+    TMembers members(const_cast<TImage&>(image), TMembers::Compare); // a comparison changes neither
     object.Members(members);
     return members.Same();
 }

@@ -2,6 +2,8 @@
 // Grouping and coalescing of commands.
 #include <vagrel/document/TUndoStacks_p.h>
 
+#include <vagrel/document/TStateLog_p.h>
+
 #include <algorithm>
 #include <iterator>
 
@@ -61,11 +63,22 @@ void TUndoStacks::PutBack(TStack& stack, TStack& step) {
     std::move(step.rbegin(), step.rend(), std::back_inserter(stack));
 }
 
+bool TUndoStacks::RedoHoldsTransaction() const {
+    return std::ranges::any_of(redo, [](const TVGRCmd& each) { return each.fKind == ckState && each.fIndex != 0; });
+}
+
 void TUndoStacks::Clear() {
     fUnReID = 0;
     ++fTimesCleared;
-    undo.clear();
-    redo.clear();
+    // Elements that were parked end here; what they tell of must find empty stacks.
+    const TStack ends[] = {std::exchange(undo, {}), std::exchange(redo, {})};
+    const auto retired = std::exchange(fRetired, {});
+}
+
+void TUndoStacks::Retire(std::shared_ptr<void> part) {
+    auto holds = [](const TVGRCmd& command) { return command.fKind == ckState; };
+    if (std::ranges::any_of(undo, holds) || std::ranges::any_of(redo, holds))
+        fRetired.push_back(std::move(part));
 }
 
 } // namespace vagrel::detail

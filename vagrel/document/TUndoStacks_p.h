@@ -34,6 +34,9 @@ public:
     /// Each command has a number of its own again.
     void LeaveGroup() { fIncUnReID = true; }
     bool InGroup() const { return !fIncUnReID; }
+    std::int32_t Group() const { return fUnReID; }
+    /// Back to the number that `Group` answered, and whether commands share it.
+    void RestoreGroup(std::int32_t group, bool open) { fUnReID = group, fIncUnReID = !open; }
 
     /// Whether the last command holds what a new one of this property would: then nothing is recorded. In a replay it
     /// must be of the step that is replayed.
@@ -51,8 +54,14 @@ public:
     /// Puts such a step back.
     static void PutBack(TStack& stack, TStack& step);
 
+    std::int32_t StepGroup() const { return fUnReRef; }
+    bool RedoHoldsTransaction() const;
+
     /// Forgets all commands; numbers begin anew.
     void Clear();
+    /// Keeps what left the document while commands may hold its address.
+    void Retire(std::shared_ptr<void> part);
+    bool HasRetired() const { return !fRetired.empty(); }
     /// How often that was done.
     std::uint32_t TimesCleared() const { return fTimesCleared; }
 
@@ -60,6 +69,7 @@ private:
     bool fIncUnReID = true;
     std::int32_t fUnReID = 0, fUnReRef = 0;
     std::uint32_t fTimesCleared = 0;
+    std::vector<std::shared_ptr<void>> fRetired;
 };
 
 } // namespace vagrel::detail

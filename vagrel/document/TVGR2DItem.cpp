@@ -6,9 +6,8 @@
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Units.h>
-#include <vagrel/persistence/JsonColors.h>
-#include <vagrel/persistence/TBinaryWriter.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TBinaryFields.h>
+#include <vagrel/persistence/TJsonFields.h>
 
 namespace vagrel {
 
@@ -89,24 +88,16 @@ SvgElement& TVGR2DItem::WriteStroke(SvgElement& element, TKSLineType dash) const
     return element.Stroke(fColor).StrokeWidth(GetPenWidth()).Dash(dash);
 }
 
-void TVGR2DItem::WriteKeys(TJsonObject& json) const {
-    json.SetBool(u"Filled", fFill);
-    SetAlphaColor(json, u"FillColor", fBackColor);
+void TVGR2DItem::Members(TMembers& members) {
+    TVGRBaseItem::Members(members);
+    members(fBackColor, fFill);
 }
 
-void TVGR2DItem::ReadKeys(std::int32_t, TJsonObject& json) {
-    fFill = json.GetBool(u"Filled");
-    fBackColor = GetAlphaColor(json.GetObject(u"FillColor"));
+void TVGR2DItem::Keys(TJsonFields& keys) {
+    keys(u"Filled", fFill);
+    keys.Color(u"FillColor", fBackColor);
 }
 
-void TVGR2DItem::WriteFields(TBinaryWriter& writer) const {
-    writer.Write(fFill);
-    writer.Write(fBackColor);
-}
-
-void TVGR2DItem::ReadFields(std::int32_t, TBinaryReader& reader) {
-    fFill = reader.ReadBool();
-    fBackColor = reader.Read<TAlphaColor>();
-}
+void TVGR2DItem::Fields(TBinaryFields& fields) { fields(fFill, fBackColor); }
 
 } // namespace vagrel

@@ -12,7 +12,7 @@ public:
     TAlphaColor GetBackColor() const override { return fBackColor; }
     void SetBackColor(TAlphaColor value) override;
     /// Stores the colour without a command.
-    void StoreBackColor(TAlphaColor value) { fBackColor = value; }
+    void StoreBackColor(TAlphaColor value) { Put(fBackColor, value); }
     bool GetFilled() const override { return fFill; }
     void SetFilled(bool value) override;
     /// The alpha byte of the back colour.
@@ -31,6 +31,7 @@ public:
     void SetHeight(float value) override;
     void SetBaseWidth(std::int64_t value) override;
     void SetBaseHeight(std::int64_t value) override;
+    void Members(TMembers& members) override;
     /// Millimetres on paper.
     float GetWidthMM() const;
     float GetHeightMM() const;
@@ -48,10 +49,8 @@ protected:
     SvgElement& WriteFill(SvgElement& element) const;
     /// Stroke colour, pen width and dash.
     SvgElement& WriteStroke(SvgElement& element, TKSLineType dash) const;
-    void WriteKeys(TJsonObject& json) const override;
-    void ReadKeys(std::int32_t version, TJsonObject& json) override;
-    void WriteFields(TBinaryWriter& writer) const override;
-    void ReadFields(std::int32_t version, TBinaryReader& reader) override;
+    void Keys(TJsonFields& keys) override;
+    void Fields(TBinaryFields& fields) override;
 
     TAlphaColor fBackColor = OpaqueWhite;
     bool fFill = true;

@@ -2,12 +2,13 @@
 // The background of a label.
 #include <vagrel/document/TVGRBackSurf.h>
 
+#include <vagrel/document/TMembers.h>
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Text.h>
-#include <vagrel/persistence/JsonColors.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TBinaryFields.h>
+#include <vagrel/persistence/TJsonFields.h>
 #include <vagrel/platform/Files.h>
 
 #include <algorithm>
@@ -98,21 +99,27 @@ void TVGRBackSurf::Assign(const TVGRBackSurf& s) {
     fShowAlign = s.fShowAlign, fPrint = s.fPrint;
 }
 
-void TVGRBackSurf::WriteJson(TJsonObject& parent) const {
-    TJsonObject& json = parent.AddObject(u"BackSurface");
-    SetAlphaColor(json, u"Color", fColor);
-    SetAlphaColor(json, u"ToColor", fToColor);
-    json.SetBool(u"Print", fPrint);
-    json.SetString(u"FileNameImg", fFileName);
-    json.SetInt(u"Style", fStyle);
+void TVGRBackSurf::Keys(TJsonFields& keys) {
+    keys.Color(u"Color", fColor);
+    keys.Color(u"ToColor", fToColor);
+    keys(u"Print", fPrint);
+    keys.Through(u"FileNameImg", fFileName, [this](const std::u16string& value) { SetFileName(value); });
+    keys(u"Style", fStyle);
 }
 
-void TVGRBackSurf::ReadJson(std::int32_t, TJsonObject& json) {
-    fColor = GetAlphaColor(json.GetObject(u"Color"));
-    fToColor = GetAlphaColor(json.GetObject(u"ToColor"));
-    fPrint = json.GetBool(u"Print");
-    SetFileName(json.GetString(u"FileNameImg"));
-    fStyle = TKSLBackStyle(json.GetInt(u"Style"));
+void TVGRBackSurf::Fields(TBinaryFields& fields) {
+    std::u16string file = fFileName;
+    fields(file, fColor, fToColor, fStyle, fPrint);
+    SetFileName(file);
 }
+
+void TVGRBackSurf::Members(TMembers& members) {
+    members(fStyle, fColor, fToColor, fAlignColor, fFileName, fAlignLeft, fAlignTop, fShowAlign, fPrint);
+}
+
+void TVGRBackSurf::WriteJson(TJsonObject& parent) const { WriteKeys(*this, parent.AddObject(u"BackSurface")); }
+void TVGRBackSurf::ReadJson(std::int32_t, TJsonObject& json) { ReadKeys(*this, json); }
+void TVGRBackSurf::WriteData(TBinaryWriter& writer) const { WriteFields(*this, writer); }
+void TVGRBackSurf::ReadData(std::int32_t version, TBinaryReader& reader) { ReadFields(*this, reader, version); }
 
 } // namespace vagrel

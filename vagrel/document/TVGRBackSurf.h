@@ -11,9 +11,12 @@
 
 namespace vagrel {
 
+class TBinaryFields;
 class TBinaryReader;
 class TBinaryWriter;
+class TJsonFields;
 class TJsonObject;
+class TMembers;
 class TVGRBaseLabel;
 
 /// Colour, gradient or picture behind a label.
@@ -54,6 +57,11 @@ public:
     void ReadJson(std::int32_t version, TJsonObject& json);
     void WriteData(TBinaryWriter& writer) const;
     void ReadData(std::int32_t version, TBinaryReader& reader);
+
+    /// All keys and fields, and all members that belong to the state.
+    void Keys(TJsonFields& keys);
+    void Fields(TBinaryFields& fields);
+    void Members(TMembers& members);
 
     // For the host's painting.
 

@@ -42,6 +42,11 @@ const std::shared_ptr<TVGRReceiver>& TVGRBaseItem::Receiver() {
     return fReceiver;
 }
 
+void TVGRBaseItem::Members(TMembers& members) {
+    members(fID, fColor, fOptions, fLayer, fInID, fPenWidth, fPoints, fAngle, fBoundsRect, fChanged, fNeedRead, fResize,
+            aIsData);
+}
+
 void TVGRBaseItem::SetName() { fID = std::u16string(NameItem(fItemType)) + IntToStr(fInID, 3); }
 
 void TVGRBaseItem::SetID(std::u16string_view value) {
@@ -51,10 +56,15 @@ void TVGRBaseItem::SetID(std::u16string_view value) {
     if (fOwner.GetOptions().Has(loUniqueID) && fOwner.RepeatID(trimmed, this))
         throw EInvalidOperation(TVGRMsg::GetErrorValue(u"RepeatID"));
     fOwner.SetModified(true);
-    fID = trimmed;
+    Put(fID, trimmed);
 }
 
-bool TVGRBaseItem::Record(TUndoRow row) { return row.kind == ckNone || fOwner.Record(*this, row.kind, row.index); }
+void TVGRBaseItem::Touch() { fOwner.Touch(*this); }
+
+bool TVGRBaseItem::Record(TUndoRow row) {
+    Touch();
+    return row.kind == ckNone || fOwner.Record(*this, row.kind, row.index);
+}
 
 void TVGRBaseItem::Follow(TFollow follow) {
     switch (follow) {
@@ -82,7 +92,7 @@ void TVGRBaseItem::SetPenWidth(float mm) { Store(fPenWidth, ToInt32(SetBaseValue
 void TVGRBaseItem::SetLayer(TVGRLayer& value) {
     if (&value == fLayer)
         return;
-    fLayer = &value;
+    Put(fLayer, &value);
     fOwner.SortItemsZLayer();
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <vagrel/document/Capabilities.h>
+#include <vagrel/document/TMembers.h>
 #include <vagrel/document/TVGRCmd.h>
 #include <vagrel/foundation/Crossings.h>
 #include <vagrel/foundation/ItemTypes.h>
@@ -14,9 +15,11 @@
 
 namespace vagrel {
 
+class TBinaryFields;
 class TBinaryReader;
 class TBinaryWriter;
 class TJsonArray;
+class TJsonFields;
 class TJsonObject;
 class TVGRBaseLabel;
 class TVGRLayer;
@@ -63,12 +66,12 @@ public:
     TVGRBaseLabel& KSLab() const { return fOwner; }
     /// Number, unique in the document: the key of links and commands.
     std::int32_t GetInID() const { return fInID; }
-    void SetInID(std::int32_t value) { fInID = value; }
+    void SetInID(std::int32_t value) { Put(fInID, value); }
     const std::u16string& GetID() const { return fID; }
     /// Stores the trimmed text. Throws EInvalidOperation when identifiers must be unique and another item has this one.
     void SetID(std::u16string_view value);
     /// Stores an identifier that the system gives, without the test.
-    void SetFixedID(std::u16string_view value) { fID = value; }
+    void SetFixedID(std::u16string_view value) { Put(fID, value); }
     /// The default identifier: the type's name and the number with at least three digits.
     void SetName();
     TKSLItemType GetItemType() const { return fItemType; }
@@ -89,16 +92,16 @@ public:
     void SetPenWidth(float mm) override;
     std::int32_t BasePenWidth() const { return fPenWidth; }
     /// Base units on paper, stored without a command.
-    void StorePenWidth(std::int32_t value) { fPenWidth = value; }
+    void StorePenWidth(std::int32_t value) { Put(fPenWidth, value); }
     /// All points in base units, stored without a command.
-    void StorePoints(TKSLPtoA value) { fPoints = std::move(value); }
+    void StorePoints(TKSLPtoA value) { Put(fPoints, std::move(value)); }
     TKSLayerOpts GetOptions() const { return fOptions; }
-    void SetOptions(TKSLayerOpts value) { fOptions = value; }
+    void SetOptions(TKSLayerOpts value) { Put(fOptions, value); }
     TVGRLayer& GetLayer() const { return *fLayer; }
     /// Also sorts the document's items when layers decide the paint order.
     void SetLayer(TVGRLayer& value);
     /// Stores the layer and nothing more.
-    void StoreLayer(TVGRLayer& value) { fLayer = &value; }
+    void StoreLayer(TVGRLayer& value) { Put(fLayer, &value); }
     virtual TKSLAngle GetAngle() const { return fAngle; }
     virtual void SetAngle(TKSLAngle value);
     /// True when the item and its layer both have all of `options`.
@@ -236,6 +239,14 @@ public:
     void DrawPreview(const TVGRBaseDraw& draw);
     void PrintElement(const TVGRBaseDraw& draw) { PrintItem(draw); }
 
+    // Copies and handles
+
+    /// What stands for the item in commands and handles, see TItemHandle.
+    const std::shared_ptr<TVGRReceiver>& Receiver();
+    /// Names all members that belong to the item's state, those of its base class first: not its selection, scratch
+    /// values, or the cell of a preview copy. A class that adds members overrides it.
+    virtual void Members(TMembers& members);
+
     // Reports to the document
 
     void NotifyUpdate(TKSChange change) const;
@@ -256,6 +267,15 @@ protected:
     TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, bool preview);
     TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview);
 
+    /// Says to the document that members are about to change: what changes them without `Store` or `Record` calls it
+    /// first.
+    void Touch();
+    /// Touches and stores, and nothing more.
+    template <class T, class Value>
+    void Put(T& field, Value&& value) {
+        Touch();
+        field = std::forward<Value>(value);
+    }
     /// What a setter does with a clamped value: nothing for an equal one; else it records the old one, stores, and
     /// marks. False for an equal value, and when the event that tells of the recording ended the item.
     template <class T>
@@ -277,10 +297,9 @@ protected:
     const TKSLPto& At(int index) const { return fPoints[std::size_t(index - 1)]; }
     // A family's part of its file forms. An override first calls that of its base class.
 
-    virtual void WriteKeys(TJsonObject&) const {}
-    virtual void ReadKeys(std::int32_t, TJsonObject&) {}
-    virtual void WriteFields(TBinaryWriter&) const {}
-    virtual void ReadFields(std::int32_t, TBinaryReader&) {}
+    /// Writing changes nothing of the item.
+    virtual void Keys(TJsonFields&) {}
+    virtual void Fields(TBinaryFields&) {}
 
     /// Clips a move in base units so that a rectangle stays on the page.
     void ClipToPage(std::int64_t& bx, std::int64_t& by, const TKSLRect& rect) const;
@@ -327,13 +346,10 @@ protected:
 
 private:
     friend class TVGRBaseLabel; // which keeps the item's commands
-    friend class TItemHandle;
 
     enum class TStage { Built };
     /// An item that nobody knows yet.
     TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview, TStage);
-
-    const std::shared_ptr<TVGRReceiver>& Receiver();
 
     std::shared_ptr<TVGRReceiver> fReceiver;
 };

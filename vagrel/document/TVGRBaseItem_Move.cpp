@@ -105,7 +105,7 @@ void TVGRBaseItem::BaseMove(std::int64_t bx, std::int64_t by, std::int64_t gx, s
     const bool moved = points != fPoints;
     if (moved && !Record({ckElePos, 0}))
         return;
-    fPoints = std::move(points);
+    Put(fPoints, std::move(points));
     if (update)
         UpdateBounds();
     if (moved)
@@ -113,6 +113,7 @@ void TVGRBaseItem::BaseMove(std::int64_t bx, std::int64_t by, std::int64_t gx, s
 }
 
 void TVGRBaseItem::Move(float ax, float ay, TKSLMoveOpt option) {
+    Touch();
     const TKSLUnits units = fOwner.GetUnits();
     if (option == moAll) {
         for (TKSLPto& point : fPoints)
@@ -127,6 +128,7 @@ void TVGRBaseItem::Move(float ax, float ay, TKSLMoveOpt option) {
 }
 
 void TVGRBaseItem::RotateLeft() {
+    Touch();
     fAngle = fAngle >= ag0 && fAngle < ag270 ? TKSLAngle(fAngle + 1) : ag0;
     const std::int64_t height = fOwner.GetMeasure().GetSize(mtLabelHeight, true);
     for (TKSLPto& point : fPoints)
@@ -136,6 +138,7 @@ void TVGRBaseItem::RotateLeft() {
 }
 
 void TVGRBaseItem::RotateRight() {
+    Touch();
     fAngle = fAngle > ag0 && fAngle <= ag270 ? TKSLAngle(fAngle - 1) : ag270;
     const std::int64_t width = fOwner.GetMeasure().GetSize(mtLabelWidth, true);
     for (TKSLPto& point : fPoints)

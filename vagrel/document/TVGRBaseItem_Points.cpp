@@ -67,8 +67,10 @@ void TVGRBaseItem::PointStored() {
 }
 
 void TVGRBaseItem::SetPoint(int index, TKSLPto value) {
-    if (InRange(index))
-        At(index) = value;
+    if (!InRange(index))
+        return;
+    Touch();
+    At(index) = value;
 }
 
 void TVGRBaseItem::SetBase(int index, std::int64_t x, std::int64_t y) { SetPoint(index, {x, y}); }
@@ -79,11 +81,13 @@ void TVGRBaseItem::SetBaseY(int index, std::int64_t y) { SetBase(index, GetPoint
 bool TVGRBaseItem::DeletePoint(int index) {
     if (!HasTrait(trFreePoints) || !InRange(index))
         return false;
+    Touch();
     fPoints.erase(fPoints.begin() + (index - 1));
     return true;
 }
 
 void TVGRBaseItem::AssignPoints(const TKSLPtoA& points) {
+    Touch();
     std::copy_n(points.begin(), std::min(points.size(), fPoints.size()), fPoints.begin());
     UpdateBounds();
 }
@@ -96,6 +100,7 @@ void TVGRBaseItem::NormalizePoints() {
 void TVGRBaseItem::CheckPosition() {
     if (fPoints.size() != 2)
         return;
+    Touch();
     if (At(1).bX > At(2).bX)
         std::swap(At(1).bX, At(2).bX);
     if (At(1).bY > At(2).bY)
@@ -108,6 +113,7 @@ bool TVGRBaseItem::InsertInChain(std::int64_t bx, std::int64_t by, std::int64_t 
     const int segment = PickLines(bx, by, gap);
     if (segment < 1)
         return false;
+    Touch();
     fPoints.insert(fPoints.begin() + segment, TKSLPto{bx, by});
     return true;
 }
@@ -123,6 +129,7 @@ TKSLBase TVGRBaseItem::MeanPoint() const {
 }
 
 void TVGRBaseItem::UpdateBounds() {
+    Touch();
     const TItemTypeRow& row = TypeRow();
     if (row.traits.Has(trInPlace)) {
         if (fOwner.GetAction() >= eaText && fOwner.GetAction() <= eaMoveText)

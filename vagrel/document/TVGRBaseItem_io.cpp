@@ -9,9 +9,9 @@
 #include <vagrel/foundation/Text.h>
 #include <vagrel/foundation/Units.h>
 #include <vagrel/persistence/JsonColors.h>
-#include <vagrel/persistence/TBinaryWriter.h>
+#include <vagrel/persistence/TBinaryFields.h>
 #include <vagrel/persistence/TJsonArray.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TJsonFields.h>
 
 #include <algorithm>
 #include <cmath>
@@ -56,11 +56,13 @@ std::unique_ptr<TJsonObject> TVGRBaseItem::WriteJson() const {
         point.SetFloat(u"X", CoordinateOf(At(i).bX));
         point.SetFloat(u"Y", CoordinateOf(At(i).bY));
     }
-    WriteKeys(*json);
+    TJsonFields keys(*json, TJsonFields::Write);
+    const_cast<TVGRBaseItem*>(this)->Keys(keys);
     return json;
 }
 
-void TVGRBaseItem::ReadJson(std::int32_t version, TJsonObject& json) {
+void TVGRBaseItem::ReadJson(std::int32_t, TJsonObject& json) {
+    Touch();
     fInID = json.GetInt(u"InID");
     CheckNumber(fInID);
     fID = json.GetString(u"ID");
@@ -92,7 +94,8 @@ void TVGRBaseItem::ReadJson(std::int32_t version, TJsonObject& json) {
         else
             SetPointY(i, float(y));
     }
-    ReadKeys(version, json);
+    TJsonFields keys(json, TJsonFields::Read);
+    Keys(keys);
     UpdateBounds();
 }
 
@@ -112,10 +115,12 @@ void TVGRBaseItem::WriteData(TBinaryWriter& writer) const {
         writer.Write(point.bX);
         writer.Write(point.bY);
     }
-    WriteFields(writer);
+    TBinaryFields fields(writer);
+    const_cast<TVGRBaseItem*>(this)->Fields(fields);
 }
 
 void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLReadType type) {
+    Touch();
     fInID = reader.Read<std::int32_t>();
     fID = reader.ReadString();
     if (type == rdPaste) {
@@ -143,7 +148,8 @@ void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLRea
         const auto y = reader.Read<std::int64_t>();
         SetBase(i, x, y);
     }
-    ReadFields(version, reader);
+    TBinaryFields fields(reader, version);
+    Fields(fields);
     UpdateBounds();
     if (type == rdPaste) {
         BaseMove(fOwner.BaseMoveInc(), fOwner.BaseMoveInc(), 0, 0, moAll, true);

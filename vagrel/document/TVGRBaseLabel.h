@@ -32,6 +32,7 @@ class IKSLText;
 class TBinaryReader;
 class TBinaryWriter;
 class TJsonObject;
+class TMembers;
 class TVGRBackSurf;
 class TVGRBaseItem;
 class TVGRBaseLibSymbol;
@@ -50,6 +51,7 @@ struct TKSLExtent;
 struct TVGRCmd;
 namespace detail {
 class TUndoStacks;
+struct TStateLog;
 enum class TReplay : std::uint8_t;
 } // namespace detail
 
@@ -175,8 +177,15 @@ public:
 
     // Ownership: what belongs to a document hands itself over when it is constructed and takes itself out when it dies.
 
+    // It says so before it changes, too.
+
     void Adopt(TVGRBaseItem& item);
     void Forget(TVGRBaseItem& item);
+    void Touch(TVGRBaseItem& item);
+    void Touch(TVGRLayer& layer);
+    void Touch(TVGRDimStyle& style);
+    void Touch(TVGRCounter& counter);
+    void TouchData();
     void Adopt(TVGRLayer& layer);
     void Forget(TVGRLayer& layer);
     void Adopt(TVGRDimStyle& style);
@@ -279,6 +288,12 @@ public:
     /// Keeps the state of a property that is about to change. Items call it through TVGRCmd.h.
     /// False when the item ended in the event that tells of it.
     bool Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t index);
+    /// The name and author of a transaction that is undone or redone next; empty for other steps.
+    std::u16string UndoName() const;
+    std::u16string RedoName() const;
+    std::u16string UndoAuthor() const;
+    std::u16string RedoAuthor() const;
+    bool InTransaction() const { return !fLogs.empty(); }
     /// True while a step is undone or redone; a second one does nothing then.
     bool IsReplaying() const { return fStepping; }
 
@@ -635,6 +650,31 @@ private:
 
     // Undo
 
+    // Transactions
+
+    friend class Transaction;
+    using TLog = std::shared_ptr<detail::TStateLog>;
+
+    TLog OpenLog();
+    /// Ends the innermost log. True when a step was left.
+    bool CommitLog(bool isTransaction);
+    void RollBackLog();
+    /// Ends all of them without a step.
+    void DropLogs();
+    /// Exchanges what a log keeps with what stands, which puts the log on the other side of the change.
+    void ExchangeState(detail::TStateLog& log);
+    void TellExchanged(const detail::TStateLog& log);
+    /// The document's own fields and those of its single parts.
+    void PageMembers(TMembers& members);
+    /// Takes an element out of its list, for a log or for good.
+    template <class T>
+    void TakeOutPart(TOwned<T>& list, std::size_t index);
+    template <class T>
+    void ShrinkParts(TOwned<T>& list, std::size_t count);
+    void ItemsReordering();
+    void Unlist(TVGRBaseItem& item);
+    void ParkItem(TVGRBaseItem& item);
+
     using TReplay = detail::TReplay;
 
     void Step(TReplay direction);
@@ -697,6 +737,7 @@ private:
 
     // What items call while they are destroyed stands before their lists, and outlives them.
     std::unique_ptr<detail::TUndoStacks> fStacks;
+    std::vector<TLog> fLogs; ///< of open transactions, the innermost last
     Observers fObservers;
     std::unique_ptr<Guides> fGuides;
     std::unique_ptr<GroupDrag> fGroupDrag;

@@ -3,6 +3,8 @@
 #include <vagrel/document/TVGRBaseLabel.h>
 
 #include <vagrel/document/Owned_p.h>
+#include <vagrel/document/TStateLog_p.h>
+#include <vagrel/document/TUndoStacks_p.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/items/lines/TVGRDimStyle.h>
@@ -88,15 +90,26 @@ void TVGRBaseLabel::CheckFit(TKSLExtent& extent) const {
 void TVGRBaseLabel::Adopt(TVGRBaseItem& item) {
     if (item.FromPreview()) {
         fPreview.emplace_back(&item);
-    } else {
-        fItems.emplace_back(&item);
-        fModified = true;
+        return;
     }
+    if (!fLogs.empty())
+        fLogs.back()->items.Appending(fItems, item);
+    fItems.emplace_back(&item);
+    fModified = true;
 }
 
 void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
+    // One that was parked has left all lists before.
+    if (item.fReceiver && !item.fReceiver->item)
+        return;
+    if (!item.FromPreview())
+        ItemsReordering();
     ForgetCommands(item);
     Release(item.FromPreview() ? fPreview : fItems, item);
+    Unlist(item);
+}
+
+void TVGRBaseLabel::Unlist(TVGRBaseItem& item) {
     std::erase(fSelection, &item);
     std::erase(fLinks, &item);
     if (const auto at = std::ranges::find(fCalcs, &item); at != fCalcs.end()) {
@@ -110,21 +123,98 @@ void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
 }
 
 void TVGRBaseLabel::FreeItem(TVGRBaseItem& item) {
-    if (!item.FromPreview())
+    if (item.FromPreview())
+        return;
+    if (fLogs.empty())
         delete &item; // takes itself out
+    else
+        ParkItem(item);
+}
+
+// In a transaction an item that goes may come back: it leaves all lists and lives on.
+void TVGRBaseLabel::ParkItem(TVGRBaseItem& item) {
+    ItemsReordering();
+    fLogs.back()->items.Touch(item);
+    const auto at =
+        std::find_if(fItems.rbegin(), fItems.rend(), [&](const auto& owned) { return owned.get() == &item; });
+    if (at == fItems.rend())
+        return;
+    std::unique_ptr<TVGRBaseItem> taken = std::move(*at);
+    fItems.erase(std::next(at).base());
+    Unlist(item);
+    item.Receiver()->SetItem(nullptr);
+    fLogs.back()->items.Park(std::move(taken));
 }
 
 void TVGRBaseLabel::FreeItems(TOwned<TVGRBaseItem>& items) {
+    if (&items == &fItems && !fLogs.empty()) {
+        while (!items.empty())
+            ParkItem(*items.back());
+        return;
+    }
     // Out of the list first: each one that dies looks for itself there.
     const TOwned<TVGRBaseItem> dying = std::move(items);
     items.clear();
 }
 
-void TVGRBaseLabel::Adopt(TVGRLayer& layer) { fLayers.emplace_back(&layer); }
+void TVGRBaseLabel::ItemsReordering() {
+    if (!fLogs.empty())
+        fLogs.back()->items.Reordering(fItems);
+}
+
+namespace {
+
+template <class T>
+auto& LogOf(detail::TStateLog& log) {
+    if constexpr (std::is_same_v<T, TVGRLayer>)
+        return log.layers;
+    else if constexpr (std::is_same_v<T, TVGRDimStyle>)
+        return log.styles;
+    else
+        return log.counters;
+}
+
+} // namespace
+
+template <class T>
+void TVGRBaseLabel::TakeOutPart(TOwned<T>& list, std::size_t index) {
+    if (!fLogs.empty())
+        LogOf<T>(*fLogs.back()).Reordering(list);
+    std::unique_ptr<T> taken = detail::TakeOut(list, index);
+    if (!fLogs.empty())
+        LogOf<T>(*fLogs.back()).Park(std::move(taken));
+    else
+        fStacks->Retire(std::shared_ptr<T>(std::move(taken)));
+}
+template void TVGRBaseLabel::TakeOutPart(TOwned<TVGRLayer>&, std::size_t);
+template void TVGRBaseLabel::TakeOutPart(TOwned<TVGRDimStyle>&, std::size_t);
+template void TVGRBaseLabel::TakeOutPart(TOwned<TVGRCounter>&, std::size_t);
+
+template <class T>
+void TVGRBaseLabel::ShrinkParts(TOwned<T>& list, std::size_t count) {
+    while (list.size() > count)
+        TakeOutPart(list, list.size() - 1);
+}
+template void TVGRBaseLabel::ShrinkParts(TOwned<TVGRDimStyle>&, std::size_t);
+template void TVGRBaseLabel::ShrinkParts(TOwned<TVGRCounter>&, std::size_t);
+
+void TVGRBaseLabel::Adopt(TVGRLayer& layer) {
+    if (!fLogs.empty())
+        fLogs.back()->layers.Appending(fLayers, layer);
+    fLayers.emplace_back(&layer);
+}
 void TVGRBaseLabel::Forget(TVGRLayer& layer) { Release(fLayers, layer); }
-void TVGRBaseLabel::Adopt(TVGRDimStyle& style) { fDimStyles.emplace_back(&style); }
+void TVGRBaseLabel::Adopt(TVGRDimStyle& style) {
+    if (!fLogs.empty())
+        fLogs.back()->styles.Appending(fDimStyles, style);
+    fDimStyles.emplace_back(&style);
+}
 void TVGRBaseLabel::Forget(TVGRDimStyle& style) { Release(fDimStyles, style); }
-void TVGRBaseLabel::Adopt(TVGRCounter& counter) { fCounters.emplace_back(&counter); }
+void TVGRBaseLabel::Adopt(TVGRCounter& counter) {
+    if (!fLogs.empty())
+        fLogs.back()->counters.Appending(fCounters, counter);
+    fCounters.emplace_back(&counter);
+}
 void TVGRBaseLabel::Forget(TVGRCounter& counter) { Release(fCounters, counter); }
 
 bool TVGRBaseLabel::SetActiveLayer(int index) {
@@ -158,7 +248,7 @@ void TVGRBaseLabel::FreeLayer(std::size_t position) {
         fActiveLayer = 0;
     else if (fActiveLayer > std::int32_t(position))
         --fActiveLayer;
-    detail::TakeOut(fLayers, position);
+    TakeOutPart(fLayers, position);
 }
 
 bool TVGRBaseLabel::DeleteLayer(int index) {
@@ -175,6 +265,8 @@ bool TVGRBaseLabel::ExchangeLayers(int index1, int index2) {
     auto movable = [this](int index) { return index >= 2 && index <= LayersCount(); };
     if (!movable(index1) || !movable(index2))
         return false;
+    if (!fLogs.empty())
+        fLogs.back()->layers.Reordering(fLayers);
     std::swap(fLayers[std::size_t(index1 - 1)], fLayers[std::size_t(index2 - 1)]);
     SortItemsZLayer();
     CheckBackLayer();
@@ -191,6 +283,7 @@ void TVGRBaseLabel::SetLayerZOrder(bool value) {
 void TVGRBaseLabel::SortItemsZLayer() {
     if (!fLayerZOrder || fLayers.size() < 2)
         return;
+    ItemsReordering();
     std::ranges::stable_sort(fItems, {}, [this](const auto& item) { return LayerIdx(item->GetLayer()); });
 }
 

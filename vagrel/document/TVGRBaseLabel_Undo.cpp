@@ -7,6 +7,7 @@
 // stays where it was.
 #include <vagrel/document/TVGRBaseLabel.h>
 
+#include <vagrel/document/TStateLog_p.h>
 #include <vagrel/document/TUndoStacks_p.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/foundation/Exceptions.h>
@@ -24,7 +25,7 @@ std::int32_t TVGRBaseLabel::UnReID() { return fStacks->NextGroup(); }
 void TVGRBaseLabel::TellUndoRedo() {
     // While an item is half built it is owed.
     fTellOwed = fCreating > 0;
-    if (!OnUndoRedo || fDestroying || fTellOwed)
+    if (!OnUndoRedo || fDestroying || fTellOwed || !fLogs.empty())
         return;
     const TKSLUndoRedoEvent told = OnUndoRedo; // which the host may replace in it
     try {
@@ -46,7 +47,8 @@ void TVGRBaseLabel::TellOwed() {
 bool TVGRBaseLabel::Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t index) {
     if (kind == ckColor)
         AddState(lsUpdate);
-    if (!fOptions.Has(loUndoRedo) || item.FromPreview() || fStacks->replay == TReplay::Back)
+    Touch(item);
+    if (!fOptions.Has(loUndoRedo) || item.FromPreview() || fStacks->replay == TReplay::Back || !fLogs.empty())
         return true;
     const std::shared_ptr<TVGRReceiver> receiver = item.Receiver();
     if (fStacks->Coalesces(kind, index, receiver))
@@ -55,6 +57,8 @@ bool TVGRBaseLabel::Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t in
     if (kind == ckDelete && std::holds_alternative<std::monostate>(state))
         return true; // too large for a snapshot: the item goes all the same, for good
     fStacks->Push({kind, index, UnReID(), receiver, std::move(state)});
+    if (fStacks->replay == TReplay::None && fStacks->RedoHoldsTransaction())
+        fStacks->redo.clear();
     if (kind == ckCreate) {
         fTellOwed = true; // the item is half built
         return true;
@@ -117,7 +121,7 @@ void TVGRBaseLabel::Redo() { Step(TReplay::Redo); }
 
 void TVGRBaseLabel::Step(TReplay direction) {
     std::vector<TVGRCmd>& from = direction == TReplay::Undo ? fStacks->undo : fStacks->redo;
-    if (fStepping || from.empty())
+    if (fStepping || !fLogs.empty() || from.empty())
         return;
     fStepping = true;
     fStepFault = nullptr;
@@ -194,6 +198,15 @@ void TVGRBaseLabel::Discard(const TVGRCmd& creation) {
 }
 
 void TVGRBaseLabel::Replay(const TVGRCmd& command, TReplay direction) {
+    if (const TLog* log = std::get_if<TLog>(&command.fValue)) {
+        ExchangeState(**log);
+        if (direction != TReplay::Back) {
+            auto& opposites = direction == TReplay::Undo ? fStacks->redo : fStacks->undo;
+            opposites.push_back({ckState, command.fIndex, fStacks->StepGroup(), nullptr, *log});
+        }
+        TellExchanged(**log);
+        return;
+    }
     TVGRBaseItem* item = command.fReceiver->item;
     if (!item)
         return; // it went without a command

@@ -261,8 +261,10 @@ void TVGRBaseLabel::Clear(TKSLClearSet what, bool paint) {
     const bool freesItems = holds(cleItems) && !fItems.empty();
     const bool unselects = (holds(cleItems) || what.Has(cleSelection)) && !fSelection.empty();
 
-    if (holds(cleUndoRedo))
+    if (holds(cleUndoRedo)) {
+        DropLogs();
         ClearCommands();
+    }
     if (holds(cleItems) || what.Has(cleSelection)) {
         ClearSelectionLists();
         ChangeValue(chClearSelect);
@@ -296,15 +298,15 @@ void TVGRBaseLabel::Clear(TKSLClearSet what, bool paint) {
     if (holds(cleLayers) || what.Has(cleBaseLayer))
         CheckBackLayer();
     if (holds(cleCounters))
-        detail::Shrink(fCounters, 0);
+        ShrinkParts(fCounters, 0);
     if (holds(cleDimStyles)) {
-        detail::Shrink(fDimStyles, 1);
+        ShrinkParts(fDimStyles, 1);
         fActiveDimStyle = 0;
     }
     if (what.Has(cleBaseStyle)) {
         if (fDimStyles.size() == 1 && !fDestroying)
             AddBaseStyle();
-        detail::TakeOut(fDimStyles, 0);
+        TakeOutPart(fDimStyles, 0);
         fActiveDimStyle = std::max(fActiveDimStyle - 1, 0);
     }
     if (what.Has(cleValList))

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The JSON document: everything but the items, which need the host's classes to be read.
+// Both forms of a document: everything but the items, which need the host's classes to be read.
 #include <vagrel/document/TVGRBaseLabel.h>
 
 #include <vagrel/document/Owned_p.h>
@@ -15,6 +15,7 @@
 #include <vagrel/items/lines/TVGRDimStyle.h>
 #include <vagrel/merge/TVGRCounter.h>
 #include <vagrel/merge/TVGRData.h>
+#include <vagrel/persistence/TBinaryWriter.h>
 #include <vagrel/persistence/TJsonArray.h>
 #include <vagrel/persistence/TJsonObject.h>
 #include <vagrel/symbols/TVGRBaseLibSymbol.h>
@@ -36,6 +37,21 @@ void ReadElements(TVGRBaseLabel& label, std::int32_t version, TJsonObject& json,
 template <class Part>
 void ReadPart(Part& part, std::int32_t version, TJsonObject& json, std::u16string_view key) {
     AtPlace(ToUtf8(key), [&] { part.ReadJson(version, json.GetObject(key)); });
+}
+
+template <class List>
+void WriteBlocks(TBinaryWriter& writer, const List& list) {
+    writer.Write(std::int32_t(list.size()));
+    for (const auto& element : list)
+        element->WriteData(writer);
+}
+
+// Constructs and reads as many elements as the file says; an element adds itself to the document. A count beyond the
+// data ends in the reader's exception.
+template <class T>
+void ReadBlocks(TVGRBaseLabel& label, std::int32_t version, TBinaryReader& reader) {
+    for (auto count = reader.Read<std::int32_t>(); count > 0; --count)
+        (new T(label))->ReadData(version, reader);
 }
 
 template <class List>
@@ -81,7 +97,7 @@ void TVGRBaseLabel::DropStandIns() {
     if (fLayers.size() > 1)
         FreeLayer(0);
     if (HasDrawScale() && fDimStyles.size() > 1)
-        detail::TakeOut(fDimStyles, 0);
+        TakeOutPart(fDimStyles, 0);
 }
 
 void TVGRBaseLabel::ReadJson(TJsonObject& json) {
@@ -102,6 +118,48 @@ void TVGRBaseLabel::ReadJson(TJsonObject& json) {
         ReadElements<TVGRDimStyle>(*this, version, json, u"DimStyles");
     DropStandIns();
     ReadElements<TVGRCounter>(*this, version, json, u"Counters");
+}
+
+// The binary blocks. A file holds what setters once allowed, so all is stored directly but what arithmetic divides by.
+
+void TVGRBaseLabel::WriteBaseData(TBinaryWriter& writer) const {
+    writer.Write(CurrentVersion);
+    writer.Write(std::int16_t(fEditorMode));
+    writer.Write(std::int16_t(fUnits));
+    writer.Write(std::int32_t(fAngle));
+    fMeasure->WriteData(writer);
+    fBackSurf->WriteData(writer);
+    fSettings->WriteData(writer);
+    fPrintInfo->WriteData(writer);
+    fData->WriteData(writer);
+}
+
+void TVGRBaseLabel::ReadBaseData(TBinaryReader& reader) {
+    fReadedVer = reader.Read<std::int32_t>();
+    ClearForRead(TKSLEditorMode(reader.Read<std::int16_t>()));
+    fUnits = TKSLUnits(reader.Read<std::int16_t>());
+    fAngle = fReadedVer >= AngleVersion ? TKSLAngle(reader.Read<std::int32_t>()) : ag0;
+    fMeasure->ReadData(fReadedVer, reader);
+    fBackSurf->ReadData(fReadedVer, reader);
+    fSettings->ReadData(fReadedVer, reader);
+    fPrintInfo->ReadData(fReadedVer, reader);
+    fData->ReadData(fReadedVer, reader);
+}
+
+void TVGRBaseLabel::WriteData(TBinaryWriter& writer) const {
+    WriteBlocks(writer, fLayers);
+    if (HasDrawScale())
+        WriteBlocks(writer, fDimStyles);
+    else
+        writer.Write(std::int32_t(0));
+    WriteBlocks(writer, fCounters);
+}
+
+void TVGRBaseLabel::ReadData(TBinaryReader& reader) {
+    ReadBlocks<TVGRLayer>(*this, fReadedVer, reader);
+    ReadBlocks<TVGRDimStyle>(*this, fReadedVer, reader);
+    DropStandIns();
+    ReadBlocks<TVGRCounter>(*this, fReadedVer, reader);
 }
 
 } // namespace vagrel

@@ -2,10 +2,12 @@
 // The parameters of a print run.
 #include <vagrel/document/TVGRBasePrintInfo.h>
 
+#include <vagrel/document/TMembers.h>
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Rounding.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TBinaryFields.h>
+#include <vagrel/persistence/TJsonFields.h>
 
 #include <algorithm>
 
@@ -85,17 +87,27 @@ void TVGRBasePrintInfo::Assign(const TVGRBasePrintInfo& s) {
     fOrient = s.fOrient, fPrinterIndex = s.fPrinterIndex, fFirstRow = s.fFirstRow;
 }
 
-void TVGRBasePrintInfo::WriteJson(TJsonObject& parent) const {
-    TJsonObject& json = parent.AddObject(u"PrintInfo");
-    json.SetInt(u"NumLabels", fLabs);
-    json.SetInt(u"Repetition", fRepetition);
-    json.SetInt(u"PrinterOrientation", fOrient);
+void TVGRBasePrintInfo::Keys(TJsonFields& keys) {
+    keys.Through(u"NumLabels", fLabs, [this](std::int32_t value) { SetNumLabs(value); });
+    keys.Through(u"Repetition", fRepetition, [this](std::int32_t value) { SetRepetition(value); });
+    keys(u"PrinterOrientation", fOrient);
 }
 
-void TVGRBasePrintInfo::ReadJson(TJsonObject& json) {
-    SetNumLabs(json.GetInt(u"NumLabels"));
-    SetRepetition(json.GetInt(u"Repetition"));
-    fOrient = TKSLPrinterOrientation(json.GetInt(u"PrinterOrientation"));
+void TVGRBasePrintInfo::Fields(TBinaryFields& fields) {
+    fields(fRepetition);
+    fields.As<std::uint8_t>(fOrient);
+    fields(fCopies);
+    SetRepetition(fRepetition); // divides
 }
+
+void TVGRBasePrintInfo::Members(TMembers& members) {
+    members(fMaLeft, fMaTop, fMaRight, fMaBottom, fColor, fWidth, fHeight, fLabs, fRepetition, fFirstRow, fFirstCol,
+            fFirstLab, fLastLab, fCopies, fFindDetail, fOrient, fPrinterName, fPrinterIndex);
+}
+
+void TVGRBasePrintInfo::WriteJson(TJsonObject& parent) const { WriteKeys(*this, parent.AddObject(u"PrintInfo")); }
+void TVGRBasePrintInfo::ReadJson(TJsonObject& json) { ReadKeys(*this, json); }
+void TVGRBasePrintInfo::WriteData(TBinaryWriter& writer) const { WriteFields(*this, writer); }
+void TVGRBasePrintInfo::ReadData(std::int32_t version, TBinaryReader& reader) { ReadFields(*this, reader, version); }
 
 } // namespace vagrel

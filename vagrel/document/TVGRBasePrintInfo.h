@@ -12,9 +12,12 @@
 
 namespace vagrel {
 
+class TBinaryFields;
 class TBinaryReader;
 class TBinaryWriter;
+class TJsonFields;
 class TJsonObject;
+class TMembers;
 class TVGRBaseLabel;
 
 /// A label's place on a sheet: its cell, counted from 1, and its corner in base units on paper.
@@ -107,6 +110,11 @@ public:
     void ReadJson(TJsonObject& json);
     void WriteData(TBinaryWriter& writer) const;
     void ReadData(std::int32_t version, TBinaryReader& reader);
+
+    /// All keys and fields, and all members that belong to the state.
+    void Keys(TJsonFields& keys);
+    void Fields(TBinaryFields& fields);
+    void Members(TMembers& members);
 
 protected:
     TVGRBaseLabel& fOwner;

@@ -44,7 +44,8 @@ enum TVGRCmdKind : std::int32_t {
     ckLinkPoint,
     ckElePos,
     ckTxt,
-    ckFloat
+    ckFloat,
+    ckState ///< what a transaction changed
 };
 
 /// Which property a setter records; as it stands, none.

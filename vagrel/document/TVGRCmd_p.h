@@ -13,8 +13,13 @@
 
 namespace vagrel {
 
+namespace detail {
+struct TStateLog;
+}
+
 /// Integers, colours, enumerations and booleans are one alternative; std::string is the snapshot of a deleted item.
-using TVGRCmdValue = std::variant<std::monostate, std::int64_t, float, std::u16string, TKSLPto, TKSLPtoA, std::string>;
+using TVGRCmdValue = std::variant<std::monostate, std::int64_t, float, std::u16string, TKSLPto, TKSLPtoA, std::string,
+                                  std::shared_ptr<detail::TStateLog>>;
 
 struct TVGRCmd {
     TVGRCmdKind fKind;

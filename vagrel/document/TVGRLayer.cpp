@@ -25,6 +25,8 @@ TVGRLayer::TVGRLayer(TVGRBaseLabel& owner, std::u16string_view name, TAlphaColor
 
 TVGRLayer::~TVGRLayer() { fOwner.Forget(*this); }
 
+void TVGRLayer::Touch() { fOwner.Touch(*this); }
+
 template <class Action>
 void TVGRLayer::ForEachItem(Action action) {
     const UpdateScope bracket(fOwner);
@@ -39,31 +41,31 @@ template <class T>
 void TVGRLayer::Change(T& field, T value) {
     if (value == field)
         return;
-    field = value;
+    Put(field, value);
     fOwner.SetModified(true);
 }
 
 void TVGRLayer::SetName(std::u16string_view value) {
     if (value.empty())
         throw EVagrel(TVGRMsg::GetErrorValue(u"EmptyText"));
-    fName = value;
+    Put(fName, value);
 }
 
 void TVGRLayer::SetOptions(TKSLayerOpts value) {
     if (value.HasAll({lopImage, lopMap}))
         throw EInvalidOperation(u"You cannot select lopImage and lopMap simultaneously");
-    fOptions = value;
+    Put(fOptions, value);
     fOwner.CheckBackLayer();
 }
 
 void TVGRLayer::SetColor(TAlphaColor value, bool apply) {
-    fColor = value;
+    Put(fColor, value);
     if (apply)
         ForEachItem([&](TVGRBaseItem& item) { item.SetColor(value); });
 }
 
 void TVGRLayer::SetBackColor(TAlphaColor value, bool apply) {
-    fBackColor = value;
+    Put(fBackColor, value);
     if (apply)
         ForEachItem([&](TVGRBaseItem& item) {
             if (auto* area = dynamic_cast<TVGR2DItem*>(&item))
@@ -72,7 +74,7 @@ void TVGRLayer::SetBackColor(TAlphaColor value, bool apply) {
 }
 
 void TVGRLayer::SetFontColor(TAlphaColor value, bool apply) {
-    fFont.color = value;
+    Put(fFont.color, value);
     if (apply)
         ForEachItem([&](TVGRBaseItem& item) {
             if (auto* font = Query<IKSLFont>(&item))
@@ -103,9 +105,9 @@ void TVGRLayer::SetValues() {
 }
 
 float TVGRLayer::GetPenWidth() const { return GetBaseValue(fPenWidth); }
-void TVGRLayer::SetPenWidth(float mm) { fPenWidth = ToInt32(SetBaseValue(mm)); }
+void TVGRLayer::SetPenWidth(float mm) { Put(fPenWidth, ToInt32(SetBaseValue(mm))); }
 float TVGRLayer::GetFontHeight() const { return GetBaseValue(fFont.height); }
-void TVGRLayer::SetFontHeight(float mm) { fFont.height = ToInt32(SetBaseValue(mm)); }
+void TVGRLayer::SetFontHeight(float mm) { Put(fFont.height, ToInt32(SetBaseValue(mm))); }
 void TVGRLayer::SetLineType(TKSLineType value) { Change(fLineType, value); }
 void TVGRLayer::SetZPos(std::uint16_t value) { Change(fZPos, value); }
 void TVGRLayer::SetItalic(bool value) { Change(fFont.italic, value); }
@@ -126,6 +128,7 @@ void TVGRLayer::SetFileImg(std::u16string_view file) {
     if (file.empty() || file == fFileImg)
         return;
     namespace fs = std::filesystem;
+    Touch();
     fArrayB.clear();
     const fs::path source(ToUtf8(file));
     const fs::path target = fs::path(ToUtf8(fOwner.GetAbsoluteImagePath())) / source.filename();
@@ -144,6 +147,7 @@ void TVGRLayer::SetFileImg(std::u16string_view file) {
 }
 
 void TVGRLayer::Assign(const TVGRLayer& s) {
+    Touch();
     fName = s.fName, fColor = s.fColor, fBackColor = s.fBackColor, fLineType = s.fLineType, fOptions = s.fOptions;
     fZPos = s.fZPos, fPenWidth = s.fPenWidth, fFill = s.fFill;
     const bool strikeout = fFont.strikeout;

@@ -12,10 +12,13 @@
 
 namespace vagrel {
 
+class TBinaryFields;
 class TBinaryReader;
 class TBinaryWriter;
 class TJsonArray;
+class TJsonFields;
 class TJsonObject;
+class TMembers;
 class TVGRBaseItem;
 class TVGRBaseLabel;
 
@@ -57,17 +60,17 @@ public:
     std::uint16_t GetZPos() const { return fZPos; }
     void SetZPos(std::uint16_t value);
     bool GetBold() const { return fFont.bold; }
-    void SetBold(bool value) { fFont.bold = value; }
+    void SetBold(bool value) { Put(fFont.bold, value); }
     bool GetItalic() const { return fFont.italic; }
     void SetItalic(bool value);
     bool GetUnderline() const { return fFont.underline; }
-    void SetUnderline(bool value) { fFont.underline = value; }
+    void SetUnderline(bool value) { Put(fFont.underline, value); }
     bool GetStrikeout() const { return fFont.strikeout; }
-    void SetStrikeout(bool value) { fFont.strikeout = value; }
+    void SetStrikeout(bool value) { Put(fFont.strikeout, value); }
     bool GetFill() const { return fFill; }
-    void SetFill(bool value) { fFill = value; }
+    void SetFill(bool value) { Put(fFill, value); }
     const std::u16string& GetFontName() const { return fFont.name; }
-    void SetFontName(std::u16string_view value) { fFont.name = value; }
+    void SetFontName(std::u16string_view value) { Put(fFont.name, value); }
 
     // The background picture. Margins are in the restricted document unit; a margin beyond the label becomes half of
     // it.
@@ -88,25 +91,29 @@ public:
     void SetFileImg(std::u16string_view file);
     TKSLImgType GetImageType() const { return fImageType; }
     bool GetEmbeded() const { return fEmbeded; }
-    void SetEmbeded(bool value) { fEmbeded = value; }
+    void SetEmbeded(bool value) { Put(fEmbeded, value); }
     bool GetPrintImg() const { return fPrintImg; }
-    void SetPrintImg(bool value) { fPrintImg = value; }
-    std::string& ImageBytes() { return fArrayB; }
-    void SetFileImgSize(std::size_t size) { fArrayB.resize(size); }
+    void SetPrintImg(bool value) { Put(fPrintImg, value); }
+    /// To be changed.
+    std::string& ImageBytes() {
+        Touch();
+        return fArrayB;
+    }
+    void SetFileImgSize(std::size_t size) { ImageBytes().resize(size); }
 
     // The background map.
 
     TKSLMapProvider GetMapProvider() const { return fMapProvider; }
-    void SetMapProvider(TKSLMapProvider value) { fMapProvider = value; }
+    void SetMapProvider(TKSLMapProvider value) { Put(fMapProvider, value); }
     std::int16_t GetMapZoom() const { return fZoom; }
-    void SetMapZoom(std::int16_t value) { fZoom = value; }
+    void SetMapZoom(std::int16_t value) { Put(fZoom, value); }
     /// Degrees.
     double GetMapLatitude() const { return fLatitude; }
-    void SetMapLatitude(double value) { fLatitude = value; }
+    void SetMapLatitude(double value) { Put(fLatitude, value); }
     double GetMapLongitude() const { return fLongitude; }
-    void SetMapLongitude(double value) { fLongitude = value; }
+    void SetMapLongitude(double value) { Put(fLongitude, value); }
     bool GetShowMapCenter() const { return fShowMapCenter; }
-    void SetShowMapCenter(bool value) { fShowMapCenter = value; }
+    void SetShowMapCenter(bool value) { Put(fShowMapCenter, value); }
 
     /// Copies everything but strikeout, the kind of picture and its bytes.
     void Assign(const TVGRLayer& source);
@@ -116,6 +123,11 @@ public:
     void WriteData(TBinaryWriter& writer) const;
     void ReadData(std::int32_t version, TBinaryReader& reader);
 
+    /// All keys and fields, and all members that belong to the state.
+    void Keys(TJsonFields& keys);
+    void Fields(TBinaryFields& fields);
+    void Members(TMembers& members);
+
 private:
     template <class Action>
     void ForEachItem(Action action);
@@ -123,13 +135,17 @@ private:
     void Change(T& field, T value);
     float Restricted(std::int32_t base) const;
     void StoreMargin(std::int32_t& field, float value, TKSLMeasureType limit);
-    void WritePicture(TJsonObject& json) const;
-    void WriteBytes(TBinaryWriter& writer) const;
-    void ReadBytes(TBinaryReader& reader);
-    void WritePictureData(TBinaryWriter& writer) const;
-    void ReadPictureData(TBinaryReader& reader);
-    void WriteMargins(TJsonObject& json) const;
-    void ReadPicture(TJsonObject& json);
+    void PictureKeys(TJsonFields& keys);
+    void MarginKeys(TJsonFields& keys);
+    void PictureFields(TBinaryFields& fields);
+    void BytesField(TBinaryFields& fields);
+    /// Says to the document that the layer is about to change.
+    void Touch();
+    template <class T, class Value>
+    void Put(T& field, Value value) {
+        Touch();
+        field = value;
+    }
 
     TVGRBaseLabel& fOwner;
     std::u16string fName;

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
-// A layer in the JSON document.
+// A layer in both forms of the document.
 #include <vagrel/document/TVGRLayer.h>
 
+#include <vagrel/document/TMembers.h>
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/foundation/Base64.h>
-#include <vagrel/foundation/Rounding.h>
-#include <vagrel/persistence/JsonColors.h>
+#include <vagrel/persistence/TBinaryFields.h>
 #include <vagrel/persistence/TJsonArray.h>
-#include <vagrel/persistence/TJsonObject.h>
-
-#include <algorithm>
+#include <vagrel/persistence/TJsonFields.h>
 
 namespace vagrel {
 
@@ -33,88 +31,107 @@ constexpr TOptionKey OptionKeys[] = {
 
 } // namespace
 
-void TVGRLayer::WriteMargins(TJsonObject& json) const {
-    json.SetFloat(u"ImgMarLeft", RoundTo3(GetImgMarLeft()));
-    json.SetFloat(u"ImgMarTop", RoundTo3(GetImgMarTop()));
-    json.SetFloat(u"ImgMarBottom", RoundTo3(GetImgMarBottom()));
-    json.SetFloat(u"ImgMarRight", RoundTo3(GetImgMarRight()));
+void TVGRLayer::PictureKeys(TJsonFields& keys) {
+    keys(u"File", fFileImg);
+    keys(u"ImageType", fImageType);
+    keys(u"PrintImage", fPrintImg);
+    keys(u"Embeded", fEmbeded);
+}
+
+void TVGRLayer::MarginKeys(TJsonFields& keys) {
+    keys.Number(u"ImgMarLeft", GetImgMarLeft(), [this](float value) { SetImgMarLeft(value); });
+    keys.Number(u"ImgMarTop", GetImgMarTop(), [this](float value) { SetImgMarTop(value); });
+    keys.Number(u"ImgMarBottom", GetImgMarBottom(), [this](float value) { SetImgMarBottom(value); });
+    keys.Number(u"ImgMarRight", GetImgMarRight(), [this](float value) { SetImgMarRight(value); });
     if (fEmbeded)
-        json.SetString(u"Img", EncodeBase64(fArrayB));
+        keys.Through(u"Img", keys.Reads() ? std::u16string() : EncodeBase64(fArrayB),
+                     [this](const std::u16string& text) { fArrayB = DecodeBase64(text); });
+    else if (keys.Reads())
+        fArrayB.clear();
 }
 
-void TVGRLayer::WritePicture(TJsonObject& json) const {
-    json.SetString(u"File", fFileImg);
-    json.SetInt(u"ImageType", fImageType);
-    json.SetBool(u"PrintImage", fPrintImg);
-    json.SetBool(u"Embeded", fEmbeded);
+void TVGRLayer::Keys(TJsonFields& keys) {
+    keys(u"Name", fName);
+    keys.Color(u"Color", fColor);
+    keys.Color(u"BackColor", fBackColor);
+    keys(u"Fill", fFill);
+    keys(u"ZPos", fZPos);
+    keys.Inner(u"Options", [this](TJsonFields& options) {
+        for (const auto& [option, key] : OptionKeys)
+            options.Through(key, fOptions.Has(option), [&](bool on) { fOptions.Put(option, on); });
+    });
+    if (fOptions.Has(lopImage))
+        keys.Inner(u"Image", [this](TJsonFields& image) {
+            PictureKeys(image);
+            MarginKeys(image);
+        });
+    if (fOptions.Has(lopMap))
+        keys.Inner(u"Mapping", [this](TJsonFields& map) {
+            PictureKeys(map);
+            map(u"Provider", fMapProvider);
+            map(u"Zoom", fZoom);
+            map.Degrees(u"Latitude", fLatitude);
+            map.Degrees(u"Longitude", fLongitude);
+            map(u"ShowMapCenter", fShowMapCenter);
+            MarginKeys(map);
+        });
+    fFont.Keys(keys);
+    keys(u"LineType", fLineType);
+    keys.Number(u"PenWidth", GetPenWidth(), [this](float mm) { SetPenWidth(mm); });
 }
 
-void TVGRLayer::WriteJson(TJsonArray& layers) const {
-    TJsonObject& json = layers.AddObject();
-    json.SetString(u"Name", fName);
-    SetAlphaColor(json, u"Color", fColor);
-    SetAlphaColor(json, u"BackColor", fBackColor);
-    json.SetBool(u"Fill", fFill);
-    json.SetInt(u"ZPos", fZPos);
-    TJsonObject& options = json.AddObject(u"Options");
-    for (const auto& [option, key] : OptionKeys)
-        options.SetBool(key, fOptions.Has(option));
+void TVGRLayer::PictureFields(TBinaryFields& fields) {
+    fields(fFileImg, fPrintImg);
+    fields.As<std::int16_t>(fImageType);
+    fields(fEmbeded, fImgMarLeft, fImgMarTop, fImgMarBottom, fImgMarRight);
+}
+
+void TVGRLayer::BytesField(TBinaryFields& fields) {
+    if (fields.Reads()) {
+        fArrayB = fields.Reader().ReadBytes(fields.Reader().Read<std::int32_t>());
+        return;
+    }
+    const std::string_view bytes = fEmbeded ? std::string_view(fArrayB) : std::string_view();
+    fields.Writer().Write(std::int32_t(bytes.size()));
+    fields.Writer().WriteBytes(bytes);
+}
+
+void TVGRLayer::Fields(TBinaryFields& fields) {
+    fields(fName, fColor, fBackColor, fFont.bold, fFont.italic, fFont.underline, fFont.strikeout, fFont.height,
+           fFont.name, fFont.color);
+    std::uint32_t options = fOptions.Bits();
+    fields(options);
+    fOptions = TKSLayerOpts::FromBits(options);
+    fields(fZPos, fPenWidth, fLineType, fFill);
     if (fOptions.Has(lopImage)) {
-        TJsonObject& image = json.AddObject(u"Image");
-        WritePicture(image);
-        WriteMargins(image);
+        PictureFields(fields);
+        BytesField(fields);
     }
     if (fOptions.Has(lopMap)) {
-        TJsonObject& map = json.AddObject(u"Mapping");
-        WritePicture(map);
-        map.SetInt(u"Provider", fMapProvider);
-        map.SetInt(u"Zoom", fZoom);
-        map.SetFloat(u"Latitude", RoundTo8(fLatitude));
-        map.SetFloat(u"Longitude", RoundTo8(fLongitude));
-        map.SetBool(u"ShowMapCenter", fShowMapCenter);
-        WriteMargins(map);
+        PictureFields(fields);
+        fields(fZoom, fMapProvider, fLatitude, fLongitude, fShowMapCenter);
+        BytesField(fields);
     }
-    fFont.WriteJson(json);
-    json.SetInt(u"LineType", fLineType);
-    json.SetFloat(u"PenWidth", RoundTo3(GetPenWidth()));
 }
 
-void TVGRLayer::ReadPicture(TJsonObject& json) {
-    fFileImg = json.GetString(u"File");
-    fImageType = TKSLImgType(json.GetInt(u"ImageType"));
-    fPrintImg = json.GetBool(u"PrintImage");
-    fEmbeded = json.GetBool(u"Embeded");
-    SetImgMarLeft(float(json.GetFloat(u"ImgMarLeft")));
-    SetImgMarTop(float(json.GetFloat(u"ImgMarTop")));
-    SetImgMarBottom(float(json.GetFloat(u"ImgMarBottom")));
-    SetImgMarRight(float(json.GetFloat(u"ImgMarRight")));
-    fArrayB = fEmbeded ? DecodeBase64(json.GetString(u"Img")) : std::string();
+void TVGRLayer::Members(TMembers& members) {
+    members(fName, fColor, fBackColor, fLineType, fOptions, fZPos, fPenWidth, fFont, fFill, fFileImg, fImageType,
+            fEmbeded, fPrintImg, fImgMarLeft, fImgMarTop, fImgMarBottom, fImgMarRight, fZoom, fMapProvider, fLatitude,
+            fLongitude, fShowMapCenter, fArrayB);
 }
+
+void TVGRLayer::WriteJson(TJsonArray& layers) const { WriteKeys(*this, layers.AddObject()); }
 
 void TVGRLayer::ReadJson(std::int32_t, TJsonObject& json) {
-    fName = json.GetString(u"Name");
-    fColor = GetAlphaColor(json.GetObject(u"Color"));
-    fBackColor = GetAlphaColor(json.GetObject(u"BackColor"));
-    fFill = json.GetBool(u"Fill");
-    fZPos = std::uint16_t(std::clamp(json.GetInt(u"ZPos"), 0, 0xFFFF));
-    TJsonObject& options = json.GetObject(u"Options");
-    fOptions = {};
-    for (const auto& [option, key] : OptionKeys)
-        fOptions.Put(option, options.GetBool(key));
-    if (fOptions.Has(lopImage))
-        ReadPicture(json.GetObject(u"Image"));
-    if (fOptions.Has(lopMap)) {
-        TJsonObject& map = json.GetObject(u"Mapping");
-        ReadPicture(map);
-        fMapProvider = TKSLMapProvider(map.GetInt(u"Provider"));
-        fZoom = std::int16_t(std::clamp(map.GetInt(u"Zoom"), -0x8000, 0x7FFF));
-        fLatitude = map.GetFloat(u"Latitude");
-        fLongitude = map.GetFloat(u"Longitude");
-        fShowMapCenter = map.GetBool(u"ShowMapCenter");
-    }
-    fFont.ReadJson(json);
-    fLineType = TKSLineType(json.GetInt(u"LineType"));
-    SetPenWidth(float(json.GetFloat(u"PenWidth")));
+    Touch();
+    ReadKeys(*this, json);
+}
+
+void TVGRLayer::WriteData(TBinaryWriter& writer) const { WriteFields(*this, writer); }
+
+void TVGRLayer::ReadData(std::int32_t version, TBinaryReader& reader) {
+    Touch();
+    ReadFields(*this, reader, version);
 }
 
 } // namespace vagrel

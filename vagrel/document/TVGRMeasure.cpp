@@ -2,13 +2,16 @@
 // The rules of the page: floors, linked paper, draw scale.
 #include <vagrel/document/TVGRMeasure.h>
 
+#include <vagrel/document/TMembers.h>
 #include <vagrel/document/TVGRBackSurf.h>
 #include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/document/Versions.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/foundation/Units.h>
 #include <vagrel/messages/TVGRMsg.h>
+#include <vagrel/persistence/TBinaryFields.h>
 #include <vagrel/persistence/TJsonObject.h>
 
 #include <algorithm>
@@ -387,5 +390,33 @@ void TVGRMeasure::ReadJson(std::int32_t, TJsonObject& json) {
     fDate = json.GetString(u"Date");
     fPlanNumber = json.GetInt(u"PlanNumber");
 }
+
+void TVGRMeasure::Fields(TBinaryFields& fields) {
+    fields(fLabelName, fAuthor, fNote, fWidth, fHeight, fMarLeft, fMarTop, fNuHor, fNuVer, fDiHor, fDiVer, fPaperWidth,
+           fPaperHeight, fPaperSize, fPaperName);
+    if (fields.Reads() && fields.Version() < WideScaleVersion)
+        fields.As<std::int32_t>(fDrawScale);
+    else
+        fields(fDrawScale);
+    const std::pair<const char*, std::int64_t> divisors[] = {
+        {"DrawScale", fDrawScale}, {"Rows", fNuHor}, {"Columns", fNuVer}};
+    for (const auto& [key, value] : divisors)
+        if (fields.Reads() && value < 1)
+            throw Refusal<EOutOfRange>(key, std::to_string(value), "numbers from 1 on");
+    fields(fContinousPaper);
+    fields.As<std::uint8_t>(fLabelType);
+    fields(fInnerCircle, fFormat, fIncludeUnit);
+    if (fOwner.GetEditorMode() != emLabelling)
+        fields(fPromoter, fProject, fTitle, fDate, fPlanNumber);
+}
+
+void TVGRMeasure::Members(TMembers& members) {
+    members(fHeight, fWidth, fMarLeft, fMarTop, fDiHor, fDiVer, fNuHor, fNuVer, fPaperHeight, fPaperWidth, fPaperSize,
+            fInnerCircle, fPaperName, fLabelName, fLabelType, fContinousPaper, fDrawScale, fPromoter, fAuthor, fProject,
+            fTitle, fDate, fNote, fPlanNumber, fFormat, fIncludeUnit);
+}
+
+void TVGRMeasure::WriteData(TBinaryWriter& writer) const { WriteFields(*this, writer); }
+void TVGRMeasure::ReadData(std::int32_t version, TBinaryReader& reader) { ReadFields(*this, reader, version); }
 
 } // namespace vagrel

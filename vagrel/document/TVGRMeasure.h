@@ -10,9 +10,12 @@
 
 namespace vagrel {
 
+class TBinaryFields;
 class TBinaryReader;
 class TBinaryWriter;
+class TJsonFields;
 class TJsonObject;
+class TMembers;
 class TVGRBaseLabel;
 
 /// The page measure of a document. Fields are base units on paper, with no draw scale in them. Setters take the unit of
@@ -104,6 +107,10 @@ public:
     void ReadJson(std::int32_t version, TJsonObject& json);
     void WriteData(TBinaryWriter& writer) const;
     void ReadData(std::int32_t version, TBinaryReader& reader);
+
+    /// All keys and fields, and all members that belong to the state.
+    void Fields(TBinaryFields& fields);
+    void Members(TMembers& members);
 
 private:
     bool Linked() const;

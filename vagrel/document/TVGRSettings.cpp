@@ -2,11 +2,12 @@
 // Defaults of terminals and links.
 #include <vagrel/document/TVGRSettings.h>
 
+#include <vagrel/document/TMembers.h>
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Units.h>
-#include <vagrel/persistence/JsonColors.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TBinaryFields.h>
+#include <vagrel/persistence/TJsonFields.h>
 
 #include <algorithm>
 
@@ -21,19 +22,19 @@ void TVGRSettings::Assign(const TVGRSettings& s) {
     fTermColor = s.fTermColor, fFillTermColor = s.fFillTermColor, fTermSize = s.fTermSize, fLinkGap = s.fLinkGap;
 }
 
-void TVGRSettings::WriteJson(TJsonObject& parent) const {
-    TJsonObject& json = parent.AddObject(u"Settings");
-    SetAlphaColor(json, u"TermColor", fTermColor);
-    SetAlphaColor(json, u"FillTermColor", fFillTermColor);
-    json.SetFloat(u"TermSize", RoundTo3(GetBaseValue(fTermSize)));
-    json.SetFloat(u"LinkGap", RoundTo3(GetBaseValue(fLinkGap)));
+void TVGRSettings::Keys(TJsonFields& keys) {
+    keys.Color(u"TermColor", fTermColor);
+    keys.Color(u"FillTermColor", fFillTermColor);
+    keys.Number(u"TermSize", GetBaseValue(fTermSize), [this](float mm) { SetTermSize(mm); });
+    keys.Number(u"LinkGap", GetBaseValue(fLinkGap), [this](float mm) { SetLinkGap(mm); });
 }
 
-void TVGRSettings::ReadJson(std::int32_t, TJsonObject& json) {
-    fTermColor = GetAlphaColor(json.GetObject(u"TermColor"));
-    fFillTermColor = GetAlphaColor(json.GetObject(u"FillTermColor"));
-    SetTermSize(float(json.GetFloat(u"TermSize")));
-    SetLinkGap(float(json.GetFloat(u"LinkGap")));
-}
+void TVGRSettings::Fields(TBinaryFields& fields) { fields(fTermColor, fFillTermColor, fTermSize, fLinkGap); }
+void TVGRSettings::Members(TMembers& members) { members(fTermColor, fFillTermColor, fTermSize, fLinkGap); }
+
+void TVGRSettings::WriteJson(TJsonObject& parent) const { WriteKeys(*this, parent.AddObject(u"Settings")); }
+void TVGRSettings::ReadJson(std::int32_t, TJsonObject& json) { ReadKeys(*this, json); }
+void TVGRSettings::WriteData(TBinaryWriter& writer) const { WriteFields(*this, writer); }
+void TVGRSettings::ReadData(std::int32_t version, TBinaryReader& reader) { ReadFields(*this, reader, version); }
 
 } // namespace vagrel

@@ -8,9 +8,12 @@
 
 namespace vagrel {
 
+class TBinaryFields;
 class TBinaryReader;
 class TBinaryWriter;
+class TJsonFields;
 class TJsonObject;
+class TMembers;
 class TVGRBaseLabel;
 
 /// What a new line takes for its terminals, and a link for its distance.
@@ -39,6 +42,11 @@ public:
     void ReadJson(std::int32_t version, TJsonObject& json);
     void WriteData(TBinaryWriter& writer) const;
     void ReadData(std::int32_t version, TBinaryReader& reader);
+
+    /// All keys and fields, and all members that belong to the state.
+    void Keys(TJsonFields& keys);
+    void Fields(TBinaryFields& fields);
+    void Members(TMembers& members);
 
 private:
     TVGRBaseLabel& fOwner;

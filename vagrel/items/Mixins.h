@@ -4,8 +4,8 @@
 
 #include <vagrel/document/TVGR2DItem.h>
 #include <vagrel/foundation/Units.h>
-#include <vagrel/persistence/TBinaryWriter.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TBinaryFields.h>
+#include <vagrel/persistence/TJsonFields.h>
 
 namespace vagrel {
 
@@ -16,24 +16,21 @@ public:
     TKSLineType GetLineType() const override { return fLineType; }
     void SetLineType(TKSLineType value) override { this->Store(fLineType, value, cmd::LineType); }
 
+    void Members(TMembers& members) override {
+        Base::Members(members);
+        members(fLineType);
+    }
+
 protected:
     using Base::Base;
 
-    void WriteKeys(TJsonObject& json) const override {
-        Base::WriteKeys(json);
-        json.SetInt(u"LineType", fLineType);
+    void Keys(TJsonFields& keys) override {
+        Base::Keys(keys);
+        keys(u"LineType", fLineType);
     }
-    void ReadKeys(std::int32_t version, TJsonObject& json) override {
-        Base::ReadKeys(version, json);
-        fLineType = TKSLineType(json.GetInt(u"LineType"));
-    }
-    void WriteFields(TBinaryWriter& writer) const override {
-        Base::WriteFields(writer);
-        writer.Write(std::int32_t(fLineType));
-    }
-    void ReadFields(std::int32_t version, TBinaryReader& reader) override {
-        Base::ReadFields(version, reader);
-        fLineType = TKSLineType(reader.Read<std::int32_t>());
+    void Fields(TBinaryFields& fields) override {
+        Base::Fields(fields);
+        fields(fLineType);
     }
 
     TKSLineType fLineType = iiSolid;

@@ -4,8 +4,8 @@
 
 #include <vagrel/merge/FillSymbols.h>
 #include <vagrel/messages/TVGRMsg.h>
-#include <vagrel/persistence/TBinaryWriter.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TBinaryFields.h>
+#include <vagrel/persistence/TJsonFields.h>
 
 namespace vagrel {
 
@@ -25,30 +25,17 @@ void TDataBinding::Set(TKSLFillType source, std::u16string_view name, std::u16st
 
 std::u16string TDataBinding::Symbolic() const { return IncSymData(type, field); }
 
-void TDataBinding::WriteJson(TJsonObject& parent) const {
-    TJsonObject& data = parent.AddObject(u"Data");
-    data.SetString(u"Field", field);
-    data.SetString(u"Format", format);
-    data.SetInt(u"FillType", type);
+void TDataBinding::Keys(TJsonFields& keys) {
+    keys.Inner(u"Data", [this](TJsonFields& data) {
+        data(u"Field", field);
+        data(u"Format", format);
+        data(u"FillType", type);
+    });
 }
 
-void TDataBinding::ReadJson(TJsonObject& parent) {
-    TJsonObject& data = parent.GetObject(u"Data");
-    field = data.GetString(u"Field");
-    format = data.GetString(u"Format");
-    type = TKSLFillType(data.GetInt(u"FillType"));
-}
-
-void TDataBinding::WriteData(TBinaryWriter& writer) const {
-    writer.Write(field);
-    writer.Write(format);
-    writer.Write(std::int16_t(type));
-}
-
-void TDataBinding::ReadData(TBinaryReader& reader) {
-    field = reader.ReadString();
-    format = reader.ReadString();
-    type = TKSLFillType(reader.Read<std::int16_t>());
+void TDataBinding::Fields(TBinaryFields& fields) {
+    fields(field, format);
+    fields.As<std::int16_t>(type);
 }
 
 } // namespace vagrel

@@ -9,9 +9,8 @@
 
 namespace vagrel {
 
-class TBinaryReader;
-class TBinaryWriter;
-class TJsonObject;
+class TBinaryFields;
+class TJsonFields;
 
 /// A field of a data source, and the number or date pattern of its value.
 struct TDataBinding {
@@ -25,11 +24,11 @@ struct TDataBinding {
     /// The field with the symbol of its source in front.
     std::u16string Symbolic() const;
 
-    /// Stores the object "Data" in `parent`.
-    void WriteJson(TJsonObject& parent) const;
-    void ReadJson(TJsonObject& parent);
-    void WriteData(TBinaryWriter& writer) const;
-    void ReadData(TBinaryReader& reader);
+    /// The object "Data".
+    void Keys(TJsonFields& keys);
+    void Fields(TBinaryFields& fields);
+
+    bool operator==(const TDataBinding&) const = default;
 };
 
 } // namespace vagrel

@@ -5,9 +5,8 @@
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRSettings.h>
 #include <vagrel/foundation/Rounding.h>
-#include <vagrel/persistence/JsonColors.h>
-#include <vagrel/persistence/TBinaryWriter.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TBinaryFields.h>
+#include <vagrel/persistence/TJsonFields.h>
 #include <vagrel/svg/TExSVG.h>
 #include <vagrel/svg/TermShape.h>
 
@@ -24,40 +23,22 @@ void TTerminals::Ini(const TVGRBaseLabel& label) {
     from.size = to.size = TTerminal::ClampSize(label.GetSettings().BaseTermSize());
 }
 
-void TTerminals::WriteJson(TJsonObject& json) const {
-    json.SetInt(u"FromType", from.type);
-    json.SetFloat(u"SizeFrom", RoundTo3(GetBaseValue(from.size)));
-    SetAlphaColor(json, u"FromColor", from.color);
-    json.SetInt(u"ToType", to.type);
-    json.SetFloat(u"SizeTo", RoundTo3(GetBaseValue(to.size)));
-    SetAlphaColor(json, u"ToColor", to.color);
+void TTerminals::Keys(TJsonFields& keys) {
+    auto size = [&](std::u16string_view key, TTerminal& term) {
+        keys.Number(key, GetBaseValue(term.size),
+                    [&](float mm) { term.size = TTerminal::ClampSize(SetBaseValue(mm)); });
+    };
+    keys(u"FromType", from.type);
+    size(u"SizeFrom", from);
+    keys.Color(u"FromColor", from.color);
+    keys(u"ToType", to.type);
+    size(u"SizeTo", to);
+    keys.Color(u"ToColor", to.color);
 }
 
-void TTerminals::ReadJson(TJsonObject& json) {
-    from.type = TKSLTermType(json.GetInt(u"FromType"));
-    from.size = TTerminal::ClampSize(SetBaseValue(float(json.GetFloat(u"SizeFrom"))));
-    from.color = GetAlphaColor(json.GetObject(u"FromColor"));
-    to.type = TKSLTermType(json.GetInt(u"ToType"));
-    to.size = TTerminal::ClampSize(SetBaseValue(float(json.GetFloat(u"SizeTo"))));
-    to.color = GetAlphaColor(json.GetObject(u"ToColor"));
-}
-
-void TTerminals::WriteData(TBinaryWriter& writer) const {
-    writer.Write(std::int16_t(from.type));
-    writer.Write(std::int16_t(to.type));
-    writer.Write(from.color);
-    writer.Write(to.color);
-    writer.Write(from.size);
-    writer.Write(to.size);
-}
-
-void TTerminals::ReadData(TBinaryReader& reader) {
-    from.type = TKSLTermType(reader.Read<std::int16_t>());
-    to.type = TKSLTermType(reader.Read<std::int16_t>());
-    from.color = reader.Read<TAlphaColor>();
-    to.color = reader.Read<TAlphaColor>();
-    from.size = reader.Read<std::int32_t>();
-    to.size = reader.Read<std::int32_t>();
+void TTerminals::Fields(TBinaryFields& fields) {
+    fields.As<std::int16_t>(from.type, to.type);
+    fields(from.color, to.color, from.size, to.size);
 }
 
 void TTerminals::CheckFit(const TKSLPtoA& points, TKSLExtent& extent) const {

@@ -22,11 +22,9 @@ struct TTerminals {
 
     /// Fill colour and size as the document's settings have them.
     void Ini(const TVGRBaseLabel& label);
-    void WriteJson(TJsonObject& json) const;
-    void ReadJson(TJsonObject& json);
+    void Keys(TJsonFields& keys);
     /// Both types, both colours, both sizes.
-    void WriteData(TBinaryWriter& writer) const;
-    void ReadData(TBinaryReader& reader);
+    void Fields(TBinaryFields& fields);
     /// Widens an extent by the terminals that show, at the ends of a chain of points.
     void CheckFit(const TKSLPtoA& points, TKSLExtent& extent) const;
     /// One entry for each terminal that shows, at the ends of the item's points.
@@ -54,32 +52,27 @@ public:
     void SetBaseSizeFrom(std::int32_t value) override { StoreBaseSize(fTerms.from, value, cmd::SizeFrom); }
     void SetBaseSizeTo(std::int32_t value) override { StoreBaseSize(fTerms.to, value, cmd::SizeTo); }
 
+    void Members(TMembers& members) override {
+        Base::Members(members);
+        members(fTerms);
+    }
+
 protected:
     using Base::Base;
 
-    void WriteKeys(TJsonObject& json) const override {
-        Base::WriteKeys(json);
-        fTerms.WriteJson(json);
+    void Keys(TJsonFields& keys) override {
+        Base::Keys(keys);
+        fTerms.Keys(keys);
     }
-    void ReadKeys(std::int32_t version, TJsonObject& json) override {
-        Base::ReadKeys(version, json);
-        fTerms.ReadJson(json);
-    }
-    void WriteFields(TBinaryWriter& writer) const override {
-        Base::WriteFields(writer);
-        fTerms.WriteData(writer);
-    }
-    void ReadFields(std::int32_t version, TBinaryReader& reader) override {
-        Base::ReadFields(version, reader);
-        fTerms.ReadData(reader);
+    void Fields(TBinaryFields& fields) override {
+        Base::Fields(fields);
+        fTerms.Fields(fields);
     }
 
     TTerminals fTerms;
 
 private:
-    void StoreType(TTerminal& term, TKSLTermType value, cmd::TEnumIndex index) {
-        this->Store(term.type, value, index);
-    }
+    void StoreType(TTerminal& term, TKSLTermType value, cmd::TEnumIndex index) { this->Store(term.type, value, index); }
     void StoreColor(TTerminal& term, TAlphaColor value, cmd::TColorIndex index) {
         this->Store(term.color, value, index);
     }

@@ -19,6 +19,7 @@ struct TVGRFieldItem {
     TKSLFieldType fFieldType = ftString;
     bool fFloatAsDateTime = false;
 
+    bool operator==(const TVGRFieldItem&) const = default;
     /// Stores the name, and as caption when there is none. The type is that of the dataset's field, else text.
     void SetName(std::u16string_view name, const IKSLDataset* dataset = nullptr);
 };
@@ -33,17 +34,22 @@ struct TVGRDataItem {
 
     /// Takes the dataset's name and fields where there are none yet.
     void SetDataset(IKSLDataset* value);
+    bool operator==(const TVGRDataItem&) const = default;
 };
 
 /// A list inside the records of a source.
 struct TVGRDetailItem : TVGRDataItem {
     std::int32_t fPos = 0; ///< its current row, from 0
+
+    bool operator==(const TVGRDetailItem&) const = default;
 };
 using TVGRDetails = std::vector<TVGRDetailItem>;
 
 /// One source.
 struct TVGRDatasetItem : TVGRDataItem {
     TVGRDetails fDetails;
+
+    bool operator==(const TVGRDatasetItem&) const = default;
 };
 using TVGRDatasets = std::vector<TVGRDatasetItem>;
 

@@ -2,6 +2,7 @@
 // Value lists and questions: their names, which of them are in use, the answers, the stored forms.
 #include <vagrel/merge/MergeQuestions.h>
 
+#include <vagrel/document/TMembers.h>
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Numbers.h>
@@ -99,19 +100,62 @@ double TKSAskField::Number() const {
     }
 }
 
-TKSValList* MergeQuestions::GetListVal(int index) { return At(fListVal, index); }
-TKSAskField* MergeQuestions::GetAskField(int index) { return At(fListAsk, index); }
-TKSValList* MergeQuestions::GetListVal(std::u16string_view name) { return Find(fListVal, name); }
-TKSAskField* MergeQuestions::GetAskField(std::u16string_view name) { return Find(fListAsk, name); }
+void MergeQuestions::Changing() { fOwner.TouchData(); }
+
+void MergeQuestions::ClearListVal() {
+    Changing();
+    fListVal.clear();
+}
+void MergeQuestions::ClearAskList() {
+    Changing();
+    fListAsk.clear();
+}
+
+void MergeQuestions::Members(TMembers& members) { members(fListVal, fListAsk); }
+
+TKSValList* MergeQuestions::GetListVal(int index) {
+    Changing();
+    return At(fListVal, index);
+}
+TKSAskField* MergeQuestions::GetAskField(int index) {
+    Changing();
+    return At(fListAsk, index);
+}
+TKSValList* MergeQuestions::GetListVal(std::u16string_view name) {
+    Changing();
+    return Find(fListVal, name);
+}
+TKSAskField* MergeQuestions::GetAskField(std::u16string_view name) {
+    Changing();
+    return Find(fListAsk, name);
+}
 const TKSValList* MergeQuestions::GetListVal(std::u16string_view name) const { return Find(fListVal, name); }
 const TKSAskField* MergeQuestions::GetAskField(std::u16string_view name) const { return Find(fListAsk, name); }
 
-bool MergeQuestions::AddListVal(std::u16string_view name) { return Add(fListVal, name); }
-bool MergeQuestions::AddAskVal(std::u16string_view name) { return Add(fListAsk, name); }
-void MergeQuestions::SetListName(int index, std::u16string_view name) { Rename(fListVal, index, name); }
-void MergeQuestions::SetAskName(int index, std::u16string_view name) { Rename(fListAsk, index, name); }
-bool MergeQuestions::DeleteList(int index) { return Delete(fOwner, fListVal, index, ftList); }
-bool MergeQuestions::DeleteAsk(int index) { return Delete(fOwner, fListAsk, index, ftAsk); }
+bool MergeQuestions::AddListVal(std::u16string_view name) {
+    Changing();
+    return Add(fListVal, name);
+}
+bool MergeQuestions::AddAskVal(std::u16string_view name) {
+    Changing();
+    return Add(fListAsk, name);
+}
+void MergeQuestions::SetListName(int index, std::u16string_view name) {
+    Changing();
+    Rename(fListVal, index, name);
+}
+void MergeQuestions::SetAskName(int index, std::u16string_view name) {
+    Changing();
+    Rename(fListAsk, index, name);
+}
+bool MergeQuestions::DeleteList(int index) {
+    Changing();
+    return Delete(fOwner, fListVal, index, ftList);
+}
+bool MergeQuestions::DeleteAsk(int index) {
+    Changing();
+    return Delete(fOwner, fListAsk, index, ftAsk);
+}
 
 bool MergeQuestions::NameListExists(std::u16string_view name) const { return IsActive(GetListVal(name)); }
 bool MergeQuestions::NameAskExists(std::u16string_view name) const { return IsActive(GetAskField(name)); }

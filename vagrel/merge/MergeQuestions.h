@@ -11,6 +11,7 @@ namespace vagrel {
 class TBinaryReader;
 class TBinaryWriter;
 class TJsonObject;
+class TMembers;
 class TVGRBaseLabel;
 
 /// What the user answers before printing. Names count without regard to case, indexes from 1; a pointer is good until
@@ -36,8 +37,8 @@ public:
     /// Also unbind the items; false out of range.
     bool DeleteList(int index);
     bool DeleteAsk(int index);
-    void ClearListVal() { fListVal.clear(); }
-    void ClearAskList() { fListAsk.clear(); }
+    void ClearListVal();
+    void ClearAskList();
 
     /// True for an entry that an item to be printed uses.
     bool NameListExists(std::u16string_view name) const;
@@ -63,6 +64,7 @@ protected:
     MergeQuestions& operator=(const MergeQuestions&) = delete;
     ~MergeQuestions() = default;
 
+    void Members(TMembers& members);
     void AssignQuestions(const MergeQuestions& source) { fListVal = source.fListVal, fListAsk = source.fListAsk; }
     void WriteQuestions(TJsonObject& json) const;
     void ReadQuestions(TJsonObject& json);
@@ -70,6 +72,9 @@ protected:
     void ReadQuestions(TBinaryReader& reader);
 
 private:
+    /// Says to the document that a definition is about to change.
+    void Changing();
+
     TVGRBaseLabel& fOwner;
     std::vector<TKSValList> fListVal;
     std::vector<TKSAskField> fListAsk;

@@ -2,6 +2,7 @@
 // The sources: derived from JSON text and CSV files, selected by caption.
 #include <vagrel/merge/MergeSources.h>
 
+#include <vagrel/document/TMembers.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/merge/TCsvReader.h>
@@ -80,6 +81,7 @@ auto Find(List& list, std::u16string_view caption) {
 } // namespace
 
 void MergeSources::SetDatasets(TVGRDatasets value) {
+    Changing();
     Close();
     fDatasets = std::move(value);
 }
@@ -88,6 +90,7 @@ void MergeSources::SetJson(std::u16string_view value) {
     value = Trim(value);
     if (value == fJson)
         return;
+    Changing();
     fJson = value;
     CheckJson();
 }
@@ -95,6 +98,7 @@ void MergeSources::SetJson(std::u16string_view value) {
 void MergeSources::SetDataSel(std::u16string_view name) {
     if (name == fDataSel)
         return;
+    Changing();
     Close();
     fDataSel = name;
     const TVGRDatasetItem* source = SelectedSource();
@@ -104,6 +108,7 @@ void MergeSources::SetDataSel(std::u16string_view name) {
 void MergeSources::MigrateDataSel(std::u16string_view name) {
     if (name == fDataSel)
         return;
+    Changing();
     Close();
     fDataSel = name;
     fType = dtyDataset;
@@ -114,6 +119,7 @@ void MergeSources::RemoveSources(TKSLDataType type) {
 }
 
 void MergeSources::CheckJson() {
+    Changing();
     RemoveSources(dtyJson);
     if (!fJson.starts_with(u'{'))
         throw EVagrel(TVGRMsg::GetErrorValue(u"NoJson"));
@@ -135,7 +141,7 @@ template <class Value>
 void MergeSources::StoreCsv(Value& field, const Value& value) {
     if (value == field)
         return;
-    field = value;
+    Put(field, value);
     CheckCsvFields();
 }
 
@@ -145,6 +151,7 @@ void MergeSources::SetCsvSep(TKSLCsvSep value) { StoreCsv(fCsvSep, value); }
 void MergeSources::SetCsvQuote(TKSLCsvQuote value) { StoreCsv(fCsvQuote, value); }
 
 bool MergeSources::SetCsvData(std::u16string_view file, bool hasHeader, TKSLCsvSep separator, TKSLCsvQuote quote) {
+    Changing();
     if (!FileExists(ToUtf8(file)))
         throw EVagrel(TVGRMsg::GetErrorValue(u"NoFile"));
     fCsvFileName = file, fCsvHeader = hasHeader, fCsvQuote = quote;
@@ -155,6 +162,7 @@ bool MergeSources::SetCsvData(std::u16string_view file, bool hasHeader, TKSLCsvS
 }
 
 bool MergeSources::SetCsvField(int index, TKSLFieldType type) {
+    Changing();
     const TVGRDatasetItem* source = CsvSource();
     if (index < 0 || !source)
         return false;
@@ -177,6 +185,7 @@ TCsvReader MergeSources::ReadCsv() const {
 }
 
 bool MergeSources::CheckCsvFields() {
+    Changing();
     const TCsvReader lines = ReadCsv();
     RemoveSources(dtyCsv);
     if (lines.Count() == 0)
@@ -201,6 +210,7 @@ const TVGRDetailItem* MergeSources::GetDetail(std::u16string_view name) const {
 }
 
 TVGRDetailItem* MergeSources::GetDetail(std::u16string_view name) {
+    Changing();
     TVGRDatasetItem* source = Find(fDatasets, fDataSel);
     return source ? Find(source->fDetails, name) : nullptr;
 }
@@ -225,10 +235,23 @@ const TVGRDatasetItem* MergeSources::CsvSource() const {
 }
 
 void MergeSources::Unlink() {
+    Changing();
     Close();
     fLinkData = false;
     fJson.clear();
     fCsvFileName.clear();
+}
+
+void MergeSources::Members(TMembers& members) {
+    auto isHosts = [](const TVGRDataItem& source) { return source.fType == dtyDataset; };
+    TVGRDatasets own;
+    std::ranges::remove_copy_if(fDatasets, std::back_inserter(own), isHosts);
+    members(own, fJson, fType, fLinkData, fSaveJson, fDataSel, fFieldRepeat, fCsvFileName, fCsvSep, fCsvHeader,
+            fCsvQuote);
+    if (!members.Exchanges())
+        return;
+    std::ranges::copy_if(fDatasets, std::back_inserter(own), isHosts);
+    fDatasets = std::move(own);
 }
 
 } // namespace vagrel

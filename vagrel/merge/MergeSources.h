@@ -11,6 +11,7 @@ namespace vagrel {
 class TBinaryReader;
 class TBinaryWriter;
 class TCsvReader;
+class TMembers;
 class TJsonObject;
 
 /// Which sources there are, and which of them fills the document. Names of sources and details count without regard to
@@ -19,15 +20,18 @@ class MergeSources {
 public:
     const TVGRDatasets& GetDatasets() const { return fDatasets; }
     /// To add datasets of the host.
-    TVGRDatasets& GetDatasets() { return fDatasets; }
+    TVGRDatasets& GetDatasets() {
+        Changing();
+        return fDatasets;
+    }
     void SetDatasets(TVGRDatasets value);
     const std::u16string& GetJson() const { return fJson; }
     /// Stores the trimmed text and derives the JSON sources from it. Throws what `CheckJson` throws.
     void SetJson(std::u16string_view value);
     bool GetSaveJson() const { return fSaveJson; }
-    void SetSaveJson(bool value) { fSaveJson = value; }
+    void SetSaveJson(bool value) { Put(fSaveJson, value); }
     bool GetLinkData() const { return fLinkData; }
-    void SetLinkData(bool value) { fLinkData = value; }
+    void SetLinkData(bool value) { Put(fLinkData, value); }
     TKSLDataType GetType() const { return fType; }
     const std::u16string& GetDataSel() const { return fDataSel; }
     /// Selects a source by its caption; the type is dtyNone when there is none.
@@ -35,7 +39,7 @@ public:
     /// Selects a dataset that the host adds later.
     void MigrateDataSel(std::u16string_view name);
     const std::u16string& GetFieldRepeat() const { return fFieldRepeat; }
-    void SetFieldRepeat(std::u16string_view value) { fFieldRepeat = value; }
+    void SetFieldRepeat(std::u16string_view value) { Put(fFieldRepeat, value); }
 
     const std::u16string& GetCsvFileName() const { return fCsvFileName; }
     bool GetCsvHeader() const { return fCsvHeader; }
@@ -82,6 +86,10 @@ protected:
 
     /// What was open is no longer what is selected. Told before the change.
     virtual void Close() {}
+    /// Told before any definition changes.
+    virtual void Changing() {}
+    /// All definitions but the host's own sources.
+    void Members(TMembers& members);
     // The forms hold the fields of the CSV source alone. What is read takes the place of the sources that stem from
     // texts of the document that stood here before.
     void WriteSources(TJsonObject& json) const;
@@ -96,6 +104,11 @@ private:
     void RemoveSources(TKSLDataType type);
     void RemoveTextSources();
     void AddCsvSource(TVGRFields fields);
+    template <class T, class Value>
+    void Put(T& field, const Value& value) {
+        Changing();
+        field = value;
+    }
     template <class Value>
     void StoreCsv(Value& field, const Value& value);
 

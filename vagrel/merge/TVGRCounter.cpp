@@ -2,13 +2,14 @@
 // Ranges, values and stored forms of counters.
 #include <vagrel/merge/TVGRCounter.h>
 
+#include <vagrel/document/TMembers.h>
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/foundation/Numbers.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Text.h>
-#include <vagrel/persistence/TBinaryWriter.h>
+#include <vagrel/persistence/TBinaryFields.h>
 #include <vagrel/persistence/TJsonArray.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TJsonFields.h>
 
 #include <algorithm>
 #include <limits>
@@ -26,24 +27,33 @@ TVGRCounter::TVGRCounter(TVGRBaseLabel& owner) : fOwner(owner) { owner.Adopt(*th
 
 TVGRCounter::~TVGRCounter() { fOwner.Forget(*this); }
 
+void TVGRCounter::StoreText(std::u16string& field, std::u16string_view value) {
+    fOwner.Touch(*this);
+    field = value;
+}
+
 void TVGRCounter::SetNumFrom(std::int64_t value) {
+    fOwner.Touch(*this);
     fNumFrom = value;
     fNumTo = std::max(fNumTo, value);
     CalcNumLabs();
 }
 
 void TVGRCounter::SetNumTo(std::int64_t value) {
+    fOwner.Touch(*this);
     fNumTo = value;
     fNumFrom = std::min(fNumFrom, value);
     CalcNumLabs();
 }
 
 void TVGRCounter::SetRepeat(std::int16_t value) {
+    fOwner.Touch(*this);
     fRepeat = std::max<std::int16_t>(value, 1);
     CalcNumLabs();
 }
 
 void TVGRCounter::SetStep(std::int32_t value) {
+    fOwner.Touch(*this);
     fStep = value == 0 ? 1 : value;
     CalcNumLabs();
 }
@@ -78,48 +88,46 @@ void TVGRCounter::MoveTo(std::int64_t label) {
     CalcValue();
 }
 
-void TVGRCounter::WriteJson(TJsonArray& counters) const {
-    TJsonObject& json = counters.AddObject();
-    json.SetString(u"Name", fName);
-    json.SetLong(u"NumFrom", fNumFrom);
-    json.SetLong(u"NumTo", fNumTo);
-    json.SetInt(u"Step", fStep);
-    json.SetInt(u"Repeat", fRepeat);
-    json.SetString(u"Format", fFormat);
-    json.SetString(u"Before", fBefore);
-    json.SetString(u"After", fAfter);
+void TVGRCounter::Keys(TJsonFields& keys) {
+    keys(u"Name", fName);
+    keys(u"NumFrom", fNumFrom);
+    keys(u"NumTo", fNumTo);
+    keys(u"Step", fStep);
+    keys(u"Repeat", fRepeat);
+    keys(u"Format", fFormat);
+    keys(u"Before", fBefore);
+    keys(u"After", fAfter);
 }
+
+void TVGRCounter::Fields(TBinaryFields& fields) {
+    fields(fName, fNumFrom, fNumTo, fStep, fRepeat, fFormat, fBefore, fAfter);
+}
+
+void TVGRCounter::Members(TMembers& members) {
+    members(fNumFrom, fNumTo, fRepeat, fStep, fBefore, fAfter, fFormat, fName, fNumLabs);
+}
+
+// Within their limits: step and repeat divide, and a range that is turned round has no values.
+void TVGRCounter::TakeRead() {
+    SetNumTo(fNumTo);
+    SetStep(fStep);
+    SetRepeat(fRepeat);
+}
+
+void TVGRCounter::WriteJson(TJsonArray& counters) const { WriteKeys(*this, counters.AddObject()); }
 
 void TVGRCounter::ReadJson(std::int32_t, TJsonObject& json) {
-    fName = json.GetString(u"Name");
-    SetNumFrom(json.GetLong(u"NumFrom"));
-    SetNumTo(json.GetLong(u"NumTo"));
-    SetStep(json.GetInt(u"Step"));
-    SetRepeat(std::int16_t(std::clamp(json.GetInt(u"Repeat"), 1, 0x7FFF)));
-    fFormat = json.GetString(u"Format");
-    fBefore = json.GetString(u"Before");
-    fAfter = json.GetString(u"After");
+    fOwner.Touch(*this);
+    ReadKeys(*this, json);
+    TakeRead();
 }
 
-void TVGRCounter::WriteData(TBinaryWriter& writer) const {
-    writer.Write(fName);
-    writer.Write(fNumFrom);
-    writer.Write(fNumTo);
-    writer.Write(fStep);
-    writer.Write(fRepeat);
-    for (const std::u16string* text : {&fFormat, &fBefore, &fAfter})
-        writer.Write(*text);
-}
+void TVGRCounter::WriteData(TBinaryWriter& writer) const { WriteFields(*this, writer); }
 
-void TVGRCounter::ReadData(std::int32_t, TBinaryReader& reader) {
-    fName = reader.ReadString();
-    // Within their limits: step and repeat divide, and a range that is turned round has no values.
-    SetNumFrom(reader.Read<std::int64_t>());
-    SetNumTo(reader.Read<std::int64_t>());
-    SetStep(reader.Read<std::int32_t>());
-    SetRepeat(reader.Read<std::int16_t>());
-    for (std::u16string* text : {&fFormat, &fBefore, &fAfter})
-        *text = reader.ReadString();
+void TVGRCounter::ReadData(std::int32_t version, TBinaryReader& reader) {
+    fOwner.Touch(*this);
+    ReadFields(*this, reader, version);
+    TakeRead();
 }
 
 } // namespace vagrel

@@ -8,10 +8,13 @@
 
 namespace vagrel {
 
+class TBinaryFields;
 class TBinaryReader;
 class TBinaryWriter;
 class TJsonArray;
+class TJsonFields;
 class TJsonObject;
+class TMembers;
 class TVGRBaseLabel;
 
 /// Numbers from `NumFrom` to `NumTo`, each on `Repeat` labels. A counter adds itself to its document, which owns it.
@@ -23,7 +26,7 @@ public:
     ~TVGRCounter();
 
     const std::u16string& GetName() const { return fName; }
-    void SetName(std::u16string_view value) { fName = value; }
+    void SetName(std::u16string_view value) { StoreText(fName, value); }
     std::int64_t GetNumFrom() const { return fNumFrom; }
     std::int64_t GetNumTo() const { return fNumTo; }
     /// Drag the other end along where the range would turn round.
@@ -36,11 +39,11 @@ public:
     /// A step of 0 becomes 1.
     void SetStep(std::int32_t value);
     const std::u16string& GetBefore() const { return fBefore; }
-    void SetBefore(std::u16string_view value) { fBefore = value; }
+    void SetBefore(std::u16string_view value) { StoreText(fBefore, value); }
     const std::u16string& GetAfter() const { return fAfter; }
-    void SetAfter(std::u16string_view value) { fAfter = value; }
+    void SetAfter(std::u16string_view value) { StoreText(fAfter, value); }
     const std::u16string& GetFormat() const { return fFormat; }
-    void SetFormat(std::u16string_view value) { fFormat = value; }
+    void SetFormat(std::u16string_view value) { StoreText(fFormat, value); }
 
     /// The labels that the counter gives: ((to − from + 1) ÷ step) × repeat, saturating.
     std::int32_t GetNumLabs() const { return fNumLabs; }
@@ -63,8 +66,15 @@ public:
     void WriteData(TBinaryWriter& writer) const;
     void ReadData(std::int32_t version, TBinaryReader& reader);
 
+    /// All keys and fields, and all members that belong to the state.
+    void Keys(TJsonFields& keys);
+    void Fields(TBinaryFields& fields);
+    void Members(TMembers& members);
+
 private:
     void CalcValue();
+    void TakeRead();
+    void StoreText(std::u16string& field, std::u16string_view value);
 
     TVGRBaseLabel& fOwner;
     std::int64_t fNumFrom = 1, fNumTo = 100;

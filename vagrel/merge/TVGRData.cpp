@@ -2,6 +2,7 @@
 // What concerns sources, cursor and questions together.
 #include <vagrel/merge/TVGRData.h>
 
+#include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRBasePrintInfo.h>
 #include <vagrel/merge/Merge_p.h>
 #include <vagrel/persistence/TJsonObject.h>
@@ -30,7 +31,15 @@ bool TVGRData::IsValidData(TKSLFillType fill, std::u16string_view name) const {
     }
 }
 
+void TVGRData::Changing() { fOwner.TouchData(); }
+
+void TVGRData::Members(TMembers& members) {
+    MergeSources::Members(members);
+    MergeQuestions::Members(members);
+}
+
 void TVGRData::Assign(const TVGRData& source) {
+    Changing();
     Close();
     MergeSources::operator=(source);
     AssignQuestions(source);
@@ -44,6 +53,7 @@ void TVGRData::WriteJson(TJsonObject& parent) const {
 }
 
 void TVGRData::ReadJson(std::int32_t, TJsonObject& json) {
+    Changing();
     Close();
     ClearListVal();
     ClearAskList();
@@ -59,6 +69,7 @@ void TVGRData::WriteData(TBinaryWriter& writer) const {
 }
 
 void TVGRData::ReadData(std::int32_t, TBinaryReader& reader) {
+    Changing();
     Close();
     ClearListVal();
     ClearAskList();

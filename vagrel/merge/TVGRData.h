@@ -27,8 +27,13 @@ public:
     void WriteData(TBinaryWriter& writer) const;
     void ReadData(std::int32_t version, TBinaryReader& reader);
 
-private:
+    /// All definitions: not the cursor, nor the host's own sources.
+    void Members(TMembers& members);
+    /// The cursor no longer stands on what is defined.
     void Close() override { CloseRecords(); }
+
+private:
+    void Changing() override;
     /// Only labels have lists and questions in their files.
     bool StoresQuestions() const;
 

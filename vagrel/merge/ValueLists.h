@@ -23,6 +23,7 @@ struct TKSValList {
     /// False when it is absent.
     bool DeleteValue(std::u16string_view value) { return std::erase(fValues, value) > 0; }
     void AssignValues(std::vector<std::u16string> values) { fValues = std::move(values); }
+    bool operator==(const TKSValList&) const = default;
 };
 
 /// A question and its answer, in the member of its type.
@@ -40,6 +41,7 @@ struct TKSAskField {
     std::u16string Text(std::u16string_view format) const;
     /// The answer as a number, 0 for a text that is none.
     double Number() const;
+    bool operator==(const TKSAskField&) const = default;
 };
 
 } // namespace vagrel

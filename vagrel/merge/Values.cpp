@@ -82,9 +82,7 @@ bool TVGRBaseLabel::RemoveCounter(TVGRCounter* counter) {
     if (found == fCounters.end())
         return false;
     detail::Unbind(*this, ftCounter, counter->GetName());
-    // Out of the list first: a counter that dies looks for itself there.
-    const std::unique_ptr<TVGRCounter> dying = std::move(*found);
-    fCounters.erase(found);
+    TakeOutPart(fCounters, std::size_t(found - fCounters.begin()));
     return true;
 }
 

@@ -74,26 +74,21 @@ void TVGRBaseRectangle::CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes
     Keep(base, props, {iyID, iyLayer, iy2D, iyBack, iyTwoPoint, iyBorder, iyRadio, iyWidthHeight}, {iyLine});
 }
 
-void TVGRBaseRectangle::WriteKeys(TJsonObject& json) const {
-    WithLineType::WriteKeys(json);
-    json.SetFloat(u"Radio", RoundTo3(GetRadio()));
+void TVGRBaseRectangle::Members(TMembers& members) {
+    WithLineType::Members(members);
+    members(fRadio);
 }
 
-void TVGRBaseRectangle::ReadKeys(std::int32_t version, TJsonObject& json) {
-    WithLineType::ReadKeys(version, json);
-    SetRadio(float(json.GetFloat(u"Radio")));
+void TVGRBaseRectangle::Keys(TJsonFields& keys) {
+    WithLineType::Keys(keys);
+    keys.Number(u"Radio", GetRadio(), [this](float value) { SetRadio(value); });
 }
 
-void TVGRBaseRectangle::WriteFields(TBinaryWriter& writer) const {
-    if (ToInt32(fRadio) != fRadio)
+void TVGRBaseRectangle::Fields(TBinaryFields& fields) {
+    if (!fields.Reads() && ToInt32(fRadio) != fRadio)
         throw EOutOfRange(u"The corner radius of \"" + fID + u"\" is larger than the binary form can hold");
-    WithLineType::WriteFields(writer);
-    writer.Write(std::int32_t(fRadio));
-}
-
-void TVGRBaseRectangle::ReadFields(std::int32_t version, TBinaryReader& reader) {
-    WithLineType::ReadFields(version, reader);
-    fRadio = reader.Read<std::int32_t>();
+    WithLineType::Fields(fields);
+    fields.As<std::int32_t>(fRadio);
 }
 
 void TVGRBaseRectangle::WriteSVG(TSVGOutput& out) const {

@@ -26,12 +26,11 @@ public:
     TKSLBase CenterPoint() const override;
     void CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& props) const override;
     void WriteSVG(TSVGOutput& out) const override;
+    void Members(TMembers& members) override;
 
 protected:
-    void WriteKeys(TJsonObject& json) const override;
-    void ReadKeys(std::int32_t version, TJsonObject& json) override;
-    void WriteFields(TBinaryWriter& writer) const override;
-    void ReadFields(std::int32_t version, TBinaryReader& reader) override;
+    void Keys(TJsonFields& keys) override;
+    void Fields(TBinaryFields& fields) override;
 
 private:
     std::int64_t fRadio = 0;

@@ -48,7 +48,7 @@ void TVGRBaseSector::SetStartAngle(float value) {
     value = std::clamp(value, -359.0f, 360.0f);
     if (value == fAngleStart)
         return;
-    fAngleStart = value;
+    Put(fAngleStart, value);
     AdjustStartAngle();
     StateUpdate();
 }
@@ -60,14 +60,14 @@ void TVGRBaseSector::SetSweepAngle(float value) {
         value = 360 - start;
     if (value == fAngleGap)
         return;
-    fAngleGap = value;
+    Put(fAngleGap, value);
     StateUpdate();
 }
 
 void TVGRBaseSector::SetAngle(TKSLAngle value) {
     if (value == fAngle)
         return;
-    fAngle = value;
+    Put(fAngle, value);
     AdjustStartAngle();
     StateUpdate();
 }
@@ -115,29 +115,21 @@ void TVGRBaseSector::CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& p
     Keep(base, props, {iyID, iyLayer, iy2D, iyBack, iyBorder, iyAngle, iyRadio, iyCenter}, {iyLine, iySector});
 }
 
-void TVGRBaseSector::WriteKeys(TJsonObject& json) const {
-    TVGRRoundItem::WriteKeys(json);
-    json.SetFloat(u"StartAngle", fAngleStart);
-    json.SetFloat(u"SweepAngle", fAngleGap);
+void TVGRBaseSector::Members(TMembers& members) {
+    TVGRRoundItem::Members(members);
+    members(fAngleStart, fAngleGap, fCalcStart);
 }
 
-void TVGRBaseSector::ReadKeys(std::int32_t version, TJsonObject& json) {
-    TVGRRoundItem::ReadKeys(version, json);
-    fAngleStart = float(json.GetFloat(u"StartAngle"));
-    fAngleGap = float(json.GetFloat(u"SweepAngle"));
+void TVGRBaseSector::Keys(TJsonFields& keys) {
+    TVGRRoundItem::Keys(keys);
+    keys(u"StartAngle", fAngleStart);
+    keys(u"SweepAngle", fAngleGap);
     AdjustStartAngle();
 }
 
-void TVGRBaseSector::WriteFields(TBinaryWriter& writer) const {
-    TVGRRoundItem::WriteFields(writer);
-    writer.Write(fAngleStart);
-    writer.Write(fAngleGap);
-}
-
-void TVGRBaseSector::ReadFields(std::int32_t version, TBinaryReader& reader) {
-    TVGRRoundItem::ReadFields(version, reader);
-    fAngleStart = reader.Read<float>();
-    fAngleGap = reader.Read<float>();
+void TVGRBaseSector::Fields(TBinaryFields& fields) {
+    TVGRRoundItem::Fields(fields);
+    fields(fAngleStart, fAngleGap);
     AdjustStartAngle();
 }
 

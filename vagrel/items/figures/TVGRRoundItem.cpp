@@ -20,6 +20,11 @@ void TVGRRoundItem::UpdateBounds() {
     fBaseY = AddSat(a.bY, fBaseRadioY);
 }
 
+void TVGRRoundItem::Members(TMembers& members) {
+    WithLineType::Members(members);
+    members(fBaseX, fBaseY, fBaseRadioX, fBaseRadioY);
+}
+
 float TVGRRoundItem::RadioX() const { return GetValue(SubSat(At(2).bX, At(1).bX) / 2, fOwner.GetUnits()); }
 float TVGRRoundItem::RadioY() const { return GetValue(SubSat(At(2).bY, At(1).bY) / 2, fOwner.GetUnits()); }
 

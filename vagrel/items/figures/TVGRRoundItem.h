@@ -21,6 +21,7 @@ public:
     void UpdateBounds() override;
     TKSLBase CenterPoint() const override { return {fBaseX, fBaseY}; }
     bool CheckPoint(std::int64_t bx, std::int64_t by, std::int64_t gap, TKSLSnap snap, TKSLRef& ref) const override;
+    void Members(TMembers& members) override;
 
 protected:
     using WithLineType::WithLineType;

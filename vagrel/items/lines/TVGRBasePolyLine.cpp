@@ -20,7 +20,10 @@ TVGRBasePolyLine::TVGRBasePolyLine(TVGRBaseLabel& owner, TVGRLayer& layer, int p
     fTerms.Ini(owner);
 }
 
-void TVGRBasePolyLine::AddPoint(float x, float y) { fPoints.emplace_back().SetValues(x, y, fOwner.GetUnits()); }
+void TVGRBasePolyLine::AddPoint(float x, float y) {
+    Touch();
+    fPoints.emplace_back().SetValues(x, y, fOwner.GetUnits());
+}
 
 bool TVGRBasePolyLine::Pick(std::int64_t bx, std::int64_t by, std::int64_t gap, bool fill) {
     return TVGRBaseItem::Pick(bx, by, gap, fill) && PickLines(bx, by, gap) >= 1;

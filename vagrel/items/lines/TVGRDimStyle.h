@@ -12,10 +12,13 @@
 
 namespace vagrel {
 
+class TBinaryFields;
 class TBinaryReader;
 class TBinaryWriter;
 class TJsonArray;
+class TJsonFields;
 class TJsonObject;
+class TMembers;
 class TVGRBaseLabel;
 
 /// A style adds itself to the styles of its document, which owns it. Lengths are base units on paper; the setters take
@@ -56,6 +59,11 @@ public:
     void ReadJson(std::int32_t version, TJsonObject& json);
     void WriteData(TBinaryWriter& writer) const;
     void ReadData(std::int32_t version, TBinaryReader& reader);
+
+    /// All keys and fields, and all members that belong to the state.
+    void Keys(TJsonFields& keys);
+    void Fields(TBinaryFields& fields);
+    void Members(TMembers& members);
 
 private:
     void AsignId();

@@ -68,8 +68,9 @@ void TVGRBaseText::SetFontHeight(float mm) {
 void TVGRBaseText::SetFontColor(TAlphaColor value) { Store(fFont.color, value, cmd::Font); }
 
 void TVGRBaseText::SetStrikeout(bool value) {
-    if (value != fFont.strikeout)
-        fChanged = true;
+    if (value == fFont.strikeout)
+        return;
+    Put(fChanged, true);
     Store(fFont.strikeout, value);
 }
 
@@ -101,6 +102,7 @@ TKSLFillType TVGRBaseText::FillType() const { return fOwner.GetData().GetLinkDat
 std::u16string TVGRBaseText::SymFillName() const { return fBinding.Symbolic(); }
 
 void TVGRBaseText::SetData(TKSLFillType type, std::u16string_view name, std::u16string_view format) {
+    Touch();
     fBinding.Set(type, name, format);
     ShowBinding();
     fText = dText;
@@ -120,6 +122,7 @@ bool TVGRBaseText::GetIsData() const { return aIsData && fOwner.GetData().IsVali
 void TVGRBaseText::FillData(bool first) {
     if (!fOwner.GetData().IsValidData(FillType(), fBinding.field))
         return;
+    Touch();
     dText = fOwner.DataValue(fBinding.field, fBinding.format, FillType());
     // An export writes the text that an item holds.
     if (fFromPreview)
@@ -131,11 +134,12 @@ void TVGRBaseText::FillData(bool first) {
 // Geometry
 
 void TVGRBaseText::StoreMeasure(const TTextMeasure& measure) {
-    fMeasured = measure;
+    Put(fMeasured, measure);
     UpdateBounds();
 }
 
 void TVGRBaseText::UpdateBounds() {
+    Touch();
     const std::int64_t scale = fOwner.GetMeasure().GetDrawScale();
     auto extent = [scale](std::int32_t size, std::int32_t padding) {
         return MulSat(std::int64_t(size) + 2 * std::int64_t(padding), scale);

@@ -13,6 +13,8 @@ struct TTextMeasure {
     std::int32_t width = 0, height = 0;
     std::int32_t ascent = 0, descent = 0, posUnderline = 0;
     double ratio = 1; ///< drawn font height to nominal font height
+
+    bool operator==(const TTextMeasure&) const = default;
 };
 
 /// One line of text around point 1, its anchor; point 2 follows from the measured size. A host measures in its override
@@ -124,16 +126,17 @@ public:
     void CheckBaseBoundsMove(std::int64_t& bx, std::int64_t& by, TKSLMoveOpt option) const override;
     void CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& props) const override;
     void WriteSVG(TSVGOutput& out) const override;
+    void Members(TMembers& members) override;
 
 protected:
-    void WriteKeys(TJsonObject& json) const override;
-    void ReadKeys(std::int32_t version, TJsonObject& json) override;
-    void WriteFields(TBinaryWriter& writer) const override;
-    void ReadFields(std::int32_t version, TBinaryReader& reader) override;
+    void Keys(TJsonFields& keys) override;
+    void Fields(TBinaryFields& fields) override;
 
 private:
     void StorePadding(std::int32_t& field, float mm);
     void ShowBinding();
+    /// What follows a reading.
+    void TakeRead();
     /// Which end of the display width stays, and where it lies along the text.
     struct TSpan;
     TSpan Span() const;

@@ -41,6 +41,7 @@ TVGRBaseText::TSpan TVGRBaseText::Span() const {
 }
 
 void TVGRBaseText::SetDispWidth(std::int32_t value) {
+    Touch();
     fDispWidth = value > 0 && value < fMeasured.width ? value : 0;
     StateCalc();
 }

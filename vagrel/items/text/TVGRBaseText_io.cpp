@@ -8,88 +8,54 @@
 #include <vagrel/foundation/Units.h>
 #include <vagrel/items/text/LabelPosition.h>
 #include <vagrel/items/text/TextSvg.h>
-#include <vagrel/persistence/JsonColors.h>
-#include <vagrel/persistence/TBinaryWriter.h>
-#include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/persistence/TBinaryFields.h>
+#include <vagrel/persistence/TJsonFields.h>
 #include <vagrel/svg/TExSVG.h>
-
-#include <limits>
 
 namespace vagrel {
 
-void TVGRBaseText::WriteKeys(TJsonObject& json) const {
-    json.SetInt(u"HorzAlign", fHorzAlign);
-    json.SetInt(u"VertAlign", fVertAlign);
-    json.SetInt(u"DispWidth", fDispWidth);
-    json.SetFloat(u"ScaleX", double(Round(double(fScaleX) * 100)) / 100);
-    fFont.WriteJson(json);
-    json.SetFloat(u"Radio", RoundTo3(GetRadio()));
-    json.SetFloat(u"PaddingX", RoundTo3(GetPaddingX()));
-    json.SetFloat(u"PaddingY", RoundTo3(GetPaddingY()));
-    json.SetBool(u"Filled", fFill);
-    SetAlphaColor(json, u"BackColor", fBackColor);
-    json.SetString(u"Text", fText);
-    fBinding.WriteJson(json);
+void TVGRBaseText::Members(TMembers& members) {
+    TVGRBaseItem::Members(members);
+    members(fFont, fBackColor, fFill, fRadio, fText, fHorzAlign, fVertAlign, fPaddingX, fPaddingY, fBinding, fMeasured,
+            fScaleX, dText, fDispWidth);
 }
 
-void TVGRBaseText::ReadKeys(std::int32_t, TJsonObject& json) {
-    fHorzAlign = TKSLHorzAlign(json.GetInt(u"HorzAlign"));
-    fVertAlign = TKSLVertAlign(json.GetInt(u"VertAlign"));
-    fDispWidth = json.GetInt(u"DispWidth");
-    SetScaleX(float(json.GetFloat(u"ScaleX")));
-    fFont.ReadJson(json);
-    SetFontHeight(GetBaseValue(fFont.height)); // within its limit
-    SetRadio(float(json.GetFloat(u"Radio")));
-    SetPaddingX(float(json.GetFloat(u"PaddingX")));
-    SetPaddingY(float(json.GetFloat(u"PaddingY")));
-    fFill = json.GetBool(u"Filled");
-    fBackColor = GetAlphaColor(json.GetObject(u"BackColor"));
-    fText = json.GetString(u"Text");
-    fBinding.ReadJson(json);
+void TVGRBaseText::Keys(TJsonFields& keys) {
+    keys(u"HorzAlign", fHorzAlign);
+    keys(u"VertAlign", fVertAlign);
+    keys(u"DispWidth", fDispWidth);
+    keys.Number(u"ScaleX", double(Round(double(fScaleX) * 100)) / 100, [this](float value) { SetScaleX(value); });
+    fFont.Keys(keys);
+    if (keys.Reads())
+        SetFontHeight(GetBaseValue(fFont.height)); // within its limit
+    keys.Number(u"Radio", GetRadio(), [this](float mm) { SetRadio(mm); });
+    keys.Number(u"PaddingX", GetPaddingX(), [this](float mm) { SetPaddingX(mm); });
+    keys.Number(u"PaddingY", GetPaddingY(), [this](float mm) { SetPaddingY(mm); });
+    keys(u"Filled", fFill);
+    keys.Color(u"BackColor", fBackColor);
+    keys(u"Text", fText);
+    fBinding.Keys(keys);
+    if (keys.Reads())
+        TakeRead();
+}
+
+void TVGRBaseText::TakeRead() {
     ShowBinding();
     StateCalc();
 }
 
-void TVGRBaseText::WriteFields(TBinaryWriter& writer) const {
-    if (fRadio > std::numeric_limits<std::int32_t>::max() || fRadio < std::numeric_limits<std::int32_t>::min())
+void TVGRBaseText::Fields(TBinaryFields& fields) {
+    if (!fields.Reads() && ToInt32(fRadio) != fRadio)
         throw EOutOfRange(u"The corner radius of \"" + fID + u"\" does not fit the binary form");
-    writer.Write(fFont.height);
-    writer.Write(std::int32_t(fRadio));
-    writer.Write(fDispWidth);
-    writer.Write(fPaddingX);
-    writer.Write(fPaddingY);
-    writer.Write(fScaleX);
-    for (bool flag : {fFont.bold, fFont.italic, fFont.underline, fFont.strikeout})
-        writer.Write(flag);
-    writer.Write(fFont.name);
-    writer.Write(fFont.color);
-    writer.Write(fBackColor);
-    writer.Write(fFill);
-    writer.Write(fText);
-    fBinding.WriteData(writer);
-    writer.Write(std::int16_t(fHorzAlign));
-    writer.Write(std::int16_t(fVertAlign));
-}
-
-void TVGRBaseText::ReadFields(std::int32_t, TBinaryReader& reader) {
-    fFont.height = reader.Read<std::int32_t>();
-    fRadio = reader.Read<std::int32_t>();
-    fDispWidth = reader.Read<std::int32_t>();
-    fPaddingX = reader.Read<std::int32_t>();
-    fPaddingY = reader.Read<std::int32_t>();
-    fScaleX = reader.Read<float>();
-    for (bool* flag : {&fFont.bold, &fFont.italic, &fFont.underline, &fFont.strikeout})
-        *flag = reader.ReadBool();
-    fFont.name = reader.ReadString();
-    fFont.color = reader.Read<TAlphaColor>();
-    fBackColor = reader.Read<TAlphaColor>();
-    fFill = reader.ReadBool();
-    fText = reader.ReadString();
-    fBinding.ReadData(reader);
-    fHorzAlign = TKSLHorzAlign(reader.Read<std::int16_t>());
-    fVertAlign = TKSLVertAlign(reader.Read<std::int16_t>());
-    ShowBinding();
-    StateCalc();
+    fields(fFont.height);
+    fields.As<std::int32_t>(fRadio);
+    fields(fDispWidth, fPaddingX, fPaddingY, fScaleX);
+    fields(fFont.bold, fFont.italic, fFont.underline, fFont.strikeout);
+    fields(fFont.name, fFont.color, fBackColor, fFill, fText);
+    fBinding.Fields(fields);
+    fields.As<std::int16_t>(fHorzAlign, fVertAlign);
+    if (fields.Reads())
+        TakeRead();
 }
 
 void TVGRBaseText::WriteSVG(TSVGOutput& out) const {

@@ -1,0 +1,407 @@
+// SPDX-License-Identifier: MIT
+// Transactions: one step or none, back to the byte, whatever happens in between.
+#include <tests/support/ItemSuite.h>
+
+#include <host/ItemRegistry.h>
+
+#include <vagrel/document/TVGRBackSurf.h>
+#include <vagrel/document/TVGRBasePrintInfo.h>
+#include <vagrel/document/TVGRLayer.h>
+#include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/TVGRSettings.h>
+#include <vagrel/document/Transaction.h>
+#include <vagrel/foundation/Exceptions.h>
+#include <vagrel/foundation/Text.h>
+#include <vagrel/items/lines/TVGRDimStyle.h>
+#include <vagrel/merge/TVGRCounter.h>
+#include <vagrel/merge/TVGRData.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <map>
+#include <random>
+
+namespace vagrel::test {
+namespace {
+
+using testing::ElementsAre;
+
+// A document as it stands: its JSON, and every member of every item, which JSON rounds or leaves out.
+class TStand {
+public:
+    explicit TStand(TVGRBaseLabel& label) : fJson(JsonOf(label)) {
+        for (int i = 1; i <= label.ItemsCount(); ++i)
+            fImages.emplace_back(TItemHandle(*label.GetItem(i)), ImageOf(*label.GetItem(i)));
+    }
+    ::testing::AssertionResult Equals(TVGRBaseLabel& label) const {
+        if (const auto json = JsonOf(label); json != fJson)
+            return ::testing::AssertionFailure() << "JSON:\n" << ToUtf8(fJson) << "\nis now\n" << ToUtf8(json);
+        for (int i = 1; i <= label.ItemsCount(); ++i) {
+            const auto& [handle, image] = fImages[std::size_t(i - 1)];
+            if (handle.Get() != label.GetItem(i))
+                return ::testing::AssertionFailure() << "another item at " << i;
+            if (!SameAsImage(*handle, image))
+                return ::testing::AssertionFailure() << "members of " << ToUtf8(handle->GetID());
+        }
+        return ::testing::AssertionSuccess();
+    }
+
+private:
+    std::u16string fJson;
+    std::vector<std::pair<TItemHandle, TImage>> fImages;
+};
+
+class Transactions : public testing::Test {
+protected:
+    Transactions() {
+        label.Clear({cleUndoRedo}, false);
+        label.OnUndoRedo = [this](auto&&...) { ++told; };
+    }
+
+    TestHost label;
+    TVGRBaseItem& line = label.CreateLine(1000, 1000, 9000, 5000);
+    TVGRBaseItem& box = label.CreateRectangle(10000, 10000, 20000, 8000);
+    int told = 0;
+};
+
+TEST_F(Transactions, AreOneStepWhateverTheyHold) {
+    const TStand before(label);
+    Transaction change(label, u"a name", u"somebody");
+    line.SetColor(5);
+    label.DeleteItem(box, true);
+    label.CreateText(3000, 3000);
+    label.GetMeasure().fTitle = u"title"; // a public field
+    label.GetMeasure().SetWidth(70);
+    label.AddLayer().SetName(u"layer");
+    label.SetActiveLayer(2);
+    (new TVGRCounter(label))->SetName(u"counter");
+    label.GetData().AddListVal(u"list");
+    label.GetSettings().SetLinkGap(3);
+    label.GetPrintInfo().SetRepetition(3);
+    EXPECT_EQ(told, 0);
+    EXPECT_TRUE(label.IsUndoEmpty());
+    EXPECT_TRUE(change.Commit());
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(label.UndoName(), u"a name");
+    EXPECT_EQ(label.UndoAuthor(), u"somebody");
+    const TStand after(label);
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(UndoAll(label), 1);
+        EXPECT_TRUE(before.Equals(label));
+        EXPECT_EQ(label.RedoName(), u"a name");
+        EXPECT_EQ(RedoAll(label), 1);
+        EXPECT_TRUE(after.Equals(label));
+    }
+    EXPECT_FALSE(change.Commit());
+}
+
+TEST_F(Transactions, LeaveNothingWhereNothingChanged) {
+    {
+        Transaction idle(label);
+        line.SetColor(5);
+        line.SetColor(OpaqueBlack);
+        label.DeleteItem(label.CreatePoint(1, 1), false);
+        EXPECT_FALSE(idle.Commit());
+    }
+    EXPECT_TRUE(label.IsUndoEmpty());
+    EXPECT_EQ(told, 0);
+}
+
+TEST_F(Transactions, WithoutCommitEverythingComesBack) {
+    const TStand before(label);
+    label.SetModified(false);
+    label.SetSelection(&box, isSelected);
+    RecordingObserver editor(duEditor);
+    label.Attach(&editor);
+    try {
+        const Transaction lost(label);
+        const UpdateScope bracket(label);
+        label.BeginUpdate(true);
+        label.DeleteSelection();
+        line.SetPenWidth(4);
+        editor.Take();
+        throw std::runtime_error("no");
+    } catch (const std::runtime_error&) {
+    }
+    EXPECT_TRUE(before.Equals(label));
+    EXPECT_FALSE(label.GetModified());
+    EXPECT_FALSE(label.HasAnyState({lsUpdating}));
+    EXPECT_TRUE(label.IsUndoEmpty());
+    EXPECT_EQ(label.SelectionCount(), 0);
+    EXPECT_THAT(editor.Take(), testing::Contains(chPaint));
+    EXPECT_EQ(label.CreatePoint(1, 1).GetInID(), 3);
+}
+
+TEST_F(Transactions, NestedOnesAreSavepoints) {
+    const TStand before(label);
+    Transaction outer(label);
+    line.SetColor(5);
+    {
+        Transaction inner(label);
+        line.SetColor(6);
+        label.DeleteItem(box, true);
+        EXPECT_THROW(outer.Commit(), EInvalidOperation);
+        inner.Rollback();
+        EXPECT_EQ(line.GetColor(), 5u);
+        EXPECT_EQ(label.ItemsCount(), 2);
+    }
+    {
+        Transaction inner(label);
+        label.CreatePoint(4, 4);
+        label.DeleteItem(line, true);
+        EXPECT_TRUE(inner.Commit());
+    }
+    label.Undo(); // nothing while one is open
+    EXPECT_TRUE(outer.Commit());
+    const TStand after(label);
+    EXPECT_EQ(UndoAll(label), 1);
+    EXPECT_TRUE(before.Equals(label));
+    EXPECT_EQ(RedoAll(label), 1);
+    EXPECT_TRUE(after.Equals(label));
+}
+
+TEST_F(Transactions, EndWithTheDocumentThatTheyBelongTo) {
+    const std::function<void()> ends[] = {[&] { label.New(); }, [&] { label.Clear({cleUndoRedo}, false); },
+                                          [&] {
+                                              label.BeginRead(false);
+                                              label.EndRead(false);
+                                          }};
+    for (const auto& end : ends) {
+        Transaction open(label);
+        label.CreatePoint(1, 1);
+        end();
+        EXPECT_FALSE(open.IsOpen());
+        EXPECT_FALSE(open.Commit());
+        EXPECT_TRUE(label.IsUndoEmpty());
+    }
+    label.BeginRead(true);
+    EXPECT_THROW(Transaction{label}, EInvalidOperation);
+    label.EndRead(false);
+}
+
+TEST_F(Transactions, MeetTheOlderSteps) {
+    const TStand before(label);
+    // A recorded step in front, a bracket around, a deletion and its revival in between.
+    line.SetColor(5);
+    label.BeginUpdate(true);
+    box.SetColor(7);
+    {
+        Transaction inner(label);
+        box.SetPenWidth(2);
+        label.BringToFront();
+        label.SetSelection(&line, isSelected);
+        label.BringToFront();
+        EXPECT_TRUE(inner.Commit());
+    }
+    line.SetPenWidth(3);
+    label.EndUpdate();
+    label.DeleteItem(box, true);
+    label.Undo();
+    EXPECT_EQ(UndoAll(label), 2);
+    EXPECT_EQ(label.GetItem(1)->GetColor(), OpaqueBlack);
+    EXPECT_EQ(label.GetItem(2)->BasePenWidth(), 100);
+    EXPECT_EQ(RedoAll(label), 3);
+    // The redo of a transaction does not outlive the next recording.
+    UndoAll(label);
+    line.SetColor(9);
+    EXPECT_TRUE(label.IsRedoEmpty());
+}
+
+TEST_F(Transactions, EverySetterOfEveryFamilyIsUndone) {
+    label.SetOptions({loUndoRedo}); // all take the same identifier
+    for (const TKSLItemType type : AvailableItemTypes()) {
+        TVGRBaseItem& item = MakeSample(label, *SampleOf(type));
+        for (const TSetter& set : SettersOf(item, false)) {
+            const TStand before(label);
+            Transaction change(label);
+            {
+                const UpdateScope bracket(label);
+                set();
+            }
+            const bool changed = change.Commit();
+            const TStand after(label);
+            if (!changed) {
+                EXPECT_TRUE(before.Equals(label)) << type;
+                continue;
+            }
+            label.Undo();
+            EXPECT_TRUE(before.Equals(label)) << type;
+            label.Redo();
+            EXPECT_TRUE(after.Equals(label)) << type;
+        }
+    }
+}
+
+// Programs of anything that a host may do, each in transactions, with handlers that throw from time to time.
+class RandomTransactions : public testing::TestWithParam<unsigned> {
+protected:
+    struct TShaky : TestHost {
+        using TestHost::TestHost;
+        TVGRBaseItem& CreateElementFromStream(std::string_view snapshot) override {
+            if (throwing && throwing())
+                throw std::runtime_error("stream");
+            return TestHost::CreateElementFromStream(snapshot);
+        }
+        std::function<bool()> throwing;
+    };
+
+    int Below(int limit) { return int(random() % unsigned(limit)); }
+    TVGRBaseItem* Any() { return label.ItemsCount() == 0 ? nullptr : label.GetItem(1 + Below(label.ItemsCount())); }
+    void Choose() {
+        label.ClearSelection(false);
+        for (int i = Below(4); i >= 0; --i)
+            if (TVGRBaseItem* item = Any(); item && !label.Selected(*item))
+                label.AddToSelection(*item, false);
+    }
+
+    void Act() {
+        TVGRBaseItem* item = Any();
+        switch (Below(22)) {
+        case 0:
+        case 1: {
+            const auto types = AvailableItemTypes();
+            MakeSample(label, *SampleOf(types[std::size_t(Below(int(types.size())))]));
+            return;
+        }
+        case 2:
+        case 3:
+        case 4:
+        case 5:
+            if (item) {
+                const auto setters = SettersOf(*item, false);
+                setters[std::size_t(Below(int(setters.size())))]();
+            }
+            return;
+        case 6:
+            return item ? item->BaseMove(Below(900) - 450, Below(900) - 450, 0, 0, moAll, true) : void();
+        case 7:
+            return item ? label.DeleteItem(*item, true) : void();
+        case 8:
+            Choose();
+            return label.DeleteSelection();
+        case 9:
+            Choose();
+            label.CopySelection();
+            return label.PasteSelection();
+        case 10:
+            Choose();
+            return Below(2) ? label.AlignObjects(TKSLObjectAlign(Below(4))) : label.SpaceHorizontal(-1);
+        case 11:
+            Choose();
+            return Below(2) ? label.BringToFront() : label.SendToBack();
+        case 12:
+            label.AddLayer().SetZPos(std::uint16_t(Below(9)));
+            return label.SetLayerZOrder(Below(2));
+        case 13:
+            return void(label.DeleteLayer(1 + Below(label.LayersCount() + 1)));
+        case 14:
+            label.GetLayer(1 + Below(label.LayersCount())).SetColor(TAlphaColor(Below(5)), Below(2));
+            return void(label.ExchangeLayers(1 + Below(4), 1 + Below(4)));
+        case 15:
+            return item ? item->SetLayer(label.GetLayer(1 + Below(label.LayersCount()))) : void();
+        case 16:
+            label.GetMeasure().SetNuHor(1 + Below(9));
+            label.GetMeasure().fAuthor = std::u16string(std::size_t(Below(9)), u'x');
+            return label.GetBackSurf().SetColor(TAlphaColor(Below(4)));
+        case 17:
+            if (Below(2) && label.CounterCount() > 0)
+                return void(label.RemoveCounter(label.GetCounter(1)));
+            return (new TVGRCounter(label))->SetNumTo(Below(1000));
+        case 18:
+            label.GetData().AddListVal(std::u16string(1, char16_t(u'a' + Below(20))));
+            return Below(2) ? void(label.GetData().DeleteList(1)) : label.GetData().SetJson(u"{\"a\":[{\"b\":1}]}");
+        case 19:
+            return Below(2) ? label.RotateLeft() : label.SetUnits(TKSLUnits(Below(3)));
+        case 20:
+            return void(label.DeletePoint(1 + Below(3)));
+        default:
+            if (item)
+                item->CalcValues(2);
+            label.SameWidth();
+            return;
+        }
+    }
+
+    void Program() {
+        for (int i = Below(6); i >= 0; --i) {
+            throws = Below(8) == 0 ? 1 + Below(6) : 0;
+            try {
+                if (Below(5) == 0 && depth < 3) {
+                    ++depth;
+                    const TFinally up{[this] { --depth; }};
+                    Transaction inner(label);
+                    Program();
+                    if (Below(2))
+                        inner.Commit();
+                } else if (Below(3) == 0) {
+                    const UpdateScope bracket(label);
+                    Act();
+                    Act();
+                } else {
+                    Act();
+                }
+            } catch (const std::exception&) {
+            }
+            throws = 0;
+        }
+    }
+
+    bool Throws() { return throws > 0 && --throws == 0; }
+
+    std::mt19937 random;
+    int depth = 0, throws = 0;
+    TShaky label{emLabelling};
+};
+
+TEST_P(RandomTransactions, GoBackAndForthToTheByte) {
+    const char* seeds = std::getenv("VAGREL_SEEDS");
+    for (unsigned round = 0; round < (seeds ? unsigned(std::atoi(seeds)) : 12u); ++round) {
+        const unsigned seed = GetParam() * 1000003 + round;
+        random.seed(seed);
+        label.New();
+        label.Clear({cleAskList, cleValList}, false);
+        for (int i = 0; i < 6; ++i)
+            Act();
+        label.Clear({cleUndoRedo}, false);
+        RecordingObserver editor(duEditor);
+        label.Attach(&editor);
+        auto handler = [this](auto&&...) {
+            if (Throws())
+                throw std::runtime_error("handler");
+        };
+        editor.onUpdate = handler;
+        label.OnSelectItem = label.OnUnSelectItem = handler;
+        label.throwing = [this] { return Throws(); };
+
+        std::vector<TStand> stands;
+        stands.emplace_back(label);
+        for (int step = 0; step < 5; ++step) {
+            Transaction change(label);
+            Program();
+            throws = 0;
+            if (Below(4) == 0) {
+                change.Rollback();
+                ASSERT_TRUE(stands.back().Equals(label)) << "seed " << seed;
+            } else if (change.Commit()) {
+                stands.emplace_back(label);
+            } else {
+                ASSERT_TRUE(stands.back().Equals(label)) << "seed " << seed;
+            }
+        }
+        for (int i = 0; i < 2; ++i) {
+            for (std::size_t at = stands.size(); at-- > 0; label.Undo())
+                ASSERT_TRUE(stands[at].Equals(label)) << "seed " << seed << " back at " << at;
+            EXPECT_TRUE(label.IsUndoEmpty());
+            for (std::size_t at = 0; at < stands.size(); ++at, label.Redo())
+                ASSERT_TRUE(stands[at].Equals(label)) << "seed " << seed << " forth at " << at;
+        }
+        label.OnSelectItem = label.OnUnSelectItem = {};
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomTransactions, testing::Range(1u, 5u));
+
+} // namespace
+} // namespace vagrel::test
