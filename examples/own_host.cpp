@@ -12,7 +12,6 @@
 #include <vagrel/items/figures/TVGRBaseRectangle.h>
 #include <vagrel/items/lines/TVGRBaseLine.h>
 #include <vagrel/items/text/TVGRBaseText.h>
-#include <vagrel/persistence/TBinaryWriter.h>
 #include <vagrel/platform/Files.h>
 
 #include <cmath>
@@ -98,32 +97,21 @@ public:
         return picture;
     }
 
+protected:
     // All items of this host come from here.
-    Item& Make(TKSLItemType type, const TKSLPtoA& points) {
-        Item& item = type == itLine        ? *new Own<TVGRBaseLine>(*this, ActiveLayer(), false)
-                     : type == itRectangle ? *new Own<TVGRBaseRectangle>(*this, ActiveLayer(), false)
-                     : type == itCircle    ? *new Own<TVGRBaseCircle>(*this, ActiveLayer(), false)
-                     : type == itText      ? static_cast<Item&>(*new OwnText(*this, ActiveLayer(), false))
-                                           : throw ENotAvailable(u"This host has no such item");
-        item.AssignPoints(points);
-        return item;
-    }
-    Item& CreateLine(TLength x, TLength y, TLength u, TLength v) override { return Make(itLine, {{x, y}, {u, v}}); }
-    Item& CreateRectangle(TLength x, TLength y, TLength w, TLength h) override {
-        return Make(itRectangle, {{x, y}, {x + w, y + h}});
-    }
-    Item& CreateCircle(TKSLPto c, TLength r) override {
-        return Make(itCircle, {{c.bX - r, c.bY - r}, {c.bX + r, c.bY + r}});
-    }
-    Item& CreateText(TLength x, TLength y) override { return Make(itText, {{x, y}}); }
-
-    // An item is made from its bytes when its deletion is undone.
-    Item& CreateElementFromStream(std::string_view snapshot) override {
-        TBinaryReader reader(snapshot);
-        const auto version = reader.Read<std::int32_t>();
-        Item& item = Make(TKSLItemType(reader.Read<std::int32_t>()), {});
-        item.ReadData(version, reader, rdNormal);
-        return item;
+    Item& MakeItem(TVGRLayer& layer, TKSLItemType type, int, bool preview) override {
+        switch (type) {
+        case itLine:
+            return *new Own<TVGRBaseLine>(*this, layer, preview);
+        case itRectangle:
+            return *new Own<TVGRBaseRectangle>(*this, layer, preview);
+        case itCircle:
+            return *new Own<TVGRBaseCircle>(*this, layer, preview);
+        case itText:
+            return *new OwnText(*this, layer, preview);
+        default:
+            throw ENotAvailable(u"This host has no items of this type");
+        }
     }
 };
 
@@ -144,6 +132,6 @@ int main(int argc, char** argv) {
     text.SetText(u"A host of my own");
     label.EndUpdate(); // measures
     label.DeleteItem(circle, true);
-    label.Undo(); // made anew, by CreateElementFromStream
+    label.Undo(); // made anew, out of its bytes
     WriteFile(argv[1], label.Picture());
 }

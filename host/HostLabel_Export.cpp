@@ -3,23 +3,17 @@
 #include <host/HostLabel.h>
 
 #include <host/CairoDraw.h>
-#include <host/ItemRegistry.h>
 #include <host/PageWriter.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRBasePrintInfo.h>
-#include <vagrel/document/TVGRMeasure.h>
-#include <vagrel/document/Versions.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
-#include <vagrel/persistence/TBinaryWriter.h>
 
 namespace vagrel {
 
 namespace {
 
 constexpr double ScreenDpi = 96;
-// Far above any sheet; a damaged file can ask for 2^62.
-constexpr std::int64_t MostCells = 10000;
 
 TPageKind KindOf(TKSLExport type) {
     switch (type) {
@@ -45,30 +39,6 @@ void HostLabel::PaintItems(const CairoDraw& draw) const {
     for (int i = 1; i <= ItemsCount(); ++i)
         if (GetItem(i)->Shows({lopVisible, lopExport}))
             GetItem(i)->DrawElement(draw);
-}
-
-void HostLabel::MakePreview() {
-    Clear({clePreview}, false);
-    const std::int32_t rows = GetMeasure().GetNuHor(), columns = GetMeasure().GetNuVer();
-    if (std::int64_t(rows) * columns > MostCells)
-        throw EOutOfRange(u"A sheet of " + IntToStr(rows) + u" x " + IntToStr(columns) + u" labels is too large");
-    for (int i = 1; i <= ItemsCount(); ++i) {
-        const TVGRBaseItem& item = *GetItem(i);
-        if (!item.IsBound())
-            continue;
-        TBinaryWriter snapshot;
-        item.WriteData(snapshot);
-        const std::string bytes = snapshot.Take();
-        for (std::int32_t row = 1; row <= rows; ++row)
-            for (std::int32_t column = 1; column <= columns; ++column) {
-                TBinaryReader reader(bytes);
-                const auto type = TKSLItemType(reader.Read<std::int32_t>());
-                TVGRBaseItem& copy = MakeItem(*this, item.GetLayer(), type, item.NumPoints(), true);
-                copy.ReadData(CurrentVersion, reader, rdNormal);
-                copy.PreviewPos(std::int16_t(column), std::int16_t(row));
-            }
-    }
-    GetPrintInfo().SetLastPageFill(-1);
 }
 
 void HostLabel::ExportDoc(TKSLExport type, std::u16string_view filename, int page, float scale, int quality,

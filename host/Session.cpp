@@ -104,6 +104,8 @@ Session::Session(TVGRBaseLabel& document, TTrace trace) : label(document) {
 }
 
 Session::~Session() {
+    while (!transactions.empty())
+        transactions.pop_back();
     if (fTrace)
         label.OnInfoMsg = nullptr, label.OnSelectItem = label.OnUnSelectItem = nullptr, label.OnUndoRedo = nullptr;
 }

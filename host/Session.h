@@ -3,6 +3,7 @@
 #pragma once
 
 #include <vagrel/document/TVGRBaseLabel.h>
+#include <vagrel/document/Transaction.h>
 #include <vagrel/foundation/Records.h>
 
 #include <functional>
@@ -36,6 +37,9 @@ public:
     /// The last snap.
     TKSLRef snap;
     TVGRBaseLabel& label;
+
+    /// Transactions that the session opened, the innermost last; those that are left at its end are taken back.
+    std::vector<std::unique_ptr<Transaction>> transactions;
 
     /// An operation and its parameters, with blanks between them; optional ones in brackets.
     struct TOperation {

@@ -48,6 +48,14 @@ bool SessionArguments::Bool(std::u16string_view name, std::optional<bool> fallba
     return value.GetBoolValue();
 }
 
+std::u16string SessionArguments::Text(std::u16string_view name) const {
+    if (!Has(name))
+        return {};
+    if (Need(name).GetTyp() != jdtString)
+        throw EConvertError(std::u16string(name) + u": not a text");
+    return Need(name).GetStringValue();
+}
+
 TVGRBaseItem& SessionArguments::Item(TVGRBaseLabel& label, std::u16string_view name) const {
     const bool byName = Need(name).GetTyp() == jdtString;
     TVGRBaseItem* item =

@@ -28,6 +28,8 @@ public:
     std::int32_t Int(std::u16string_view name, std::optional<std::int32_t> fallback = {}) const;
     float Float(std::u16string_view name, std::optional<float> fallback = {}) const;
     bool Bool(std::u16string_view name, std::optional<bool> fallback = {}) const;
+    /// Empty when it is missing.
+    std::u16string Text(std::u16string_view name) const;
     /// The number or the identifier of an item of the document.
     TVGRBaseItem& Item(TVGRBaseLabel& label, std::u16string_view name) const;
     std::vector<std::int64_t> Longs(std::u16string_view name) const;

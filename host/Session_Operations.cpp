@@ -44,6 +44,15 @@ void Repeat(S& s, const A& a) {
         (s.label.*Step)();
 }
 
+// The innermost transaction, which ends now.
+std::unique_ptr<Transaction> TakeTransaction(S& s) {
+    if (s.transactions.empty())
+        throw EInvalidOperation(u"There is no open transaction");
+    auto last = std::move(s.transactions.back());
+    s.transactions.pop_back();
+    return last;
+}
+
 template <class Value>
 void Compare(const std::string& what, const Value& expected, const Value& found) {
     if (expected != found)
@@ -127,6 +136,12 @@ constexpr TSessionRow Rows[] = {
     {{u"Redo", u"[times]"}, Repeat<&TVGRBaseLabel::Redo>},
     {{u"BeginUpdate", u"[paintOnEnd]"}, [](S& s, const A& a) { s.label.BeginUpdate(a.Bool(u"paintOnEnd", true)); }},
     {{u"EndUpdate", u""}, [](S& s, const A&) { s.label.EndUpdate(); }},
+    {{u"BeginTransaction", u"[name]"},
+     [](S& s, const A& a) {
+         s.transactions.push_back(std::make_unique<Transaction>(s.label, a.Text(u"name"), u"session"));
+     }},
+    {{u"CommitTransaction", u""}, [](S& s, const A&) { s.answer = TakeTransaction(s)->Commit(); }},
+    {{u"RollbackTransaction", u""}, [](S& s, const A&) { TakeTransaction(s)->Rollback(); }},
     // The selection
     {{u"SetSelection", u"item"}, [](S& s, const A& a) { s.label.SetSelection(&a.Item(s.label, u"item"), isSelected); }},
     {{u"AddToSelection", u"item [notify]"},

@@ -127,10 +127,15 @@ TEST_F(Hostile, CommandsOfTheDeadNeverFallOnOthers) {
     label.SetSelection(&box, isSelected);
     label.CopySelection();
     label.Clear({cleItems}, false);
+    const auto cleared = JsonOf(label);
     label.PasteSelection();
-    const auto pasted = JsonOf(label);
+    label.GetItem(1)->SetPenWidth(3);
+    label.Undo();
+    label.Undo(); // the paste
+    EXPECT_EQ(label.ItemsCount(), 0);
+    label.Redo();
     UndoAll(label);
-    EXPECT_EQ(JsonOf(label), pasted);
+    EXPECT_EQ(JsonOf(label), cleared);
 }
 
 TEST_F(Hostile, AnEventThatThrowsLeavesNoCommandWithoutItsChange) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A document whose host can do nothing yet: what a host of one's own starts from.
+// The engine's own document: what a host of one's own starts from.
 #pragma once
 
 #include <vagrel/document/TVGRBaseLabel.h>
@@ -7,69 +7,95 @@
 
 namespace vagrel {
 
-/// Each operation of a host throws ENotAvailable and names itself, until the host overrides it.
+/// A document that does everything but what only a host can know. A host says which class stands for an item type, by
+/// `MakeItem`; geometry of factories, whole documents in both forms, paste, the copies of a preview are here. What
+/// needs a printer or a painter throws ENotAvailable until the host overrides it.
 class PartialLabel : public TVGRBaseLabel {
-protected:
+public:
     using Item = TVGRBaseItem;
     using TLength = std::int64_t;
     using TView = std::u16string_view;
 
-    using TVGRBaseLabel::TVGRBaseLabel;
+    // Whole documents. Reading is all or nothing: when it throws, the document that stood before stands again, with its
+    // handles and its undo, and the exception, an EVagrel, carries the place. Of that document nothing stays but
+    // folders, options, language, the host's data sources, the clipboard and the printer.
 
-public:
-    Item& CreateText(TLength, TLength) override { NotMade(itText); }
-    Item& CreatePara(TLength, TLength, TLength, TLength) override { NotMade(itPara); }
-    Item& CreateRichText(TLength, TLength, TLength, TLength) override { NotMade(itRichText); }
-    Item& CreatePoint(TLength, TLength) override { NotMade(itPoint); }
-    Item& CreateLine(TLength, TLength, TLength, TLength) override { NotMade(itLine); }
-    Item& CreateArrowLine(TLength, TLength, TLength, TLength) override { NotMade(itArrowLine); }
-    Item& CreatePolyLine(const TKSLPtoA&) override { NotMade(itPolyLine); }
-    Item& CreateBezier(const TKSLPtoA&) override { NotMade(itBezier); }
-    Item& CreateArc(TKSLPto, TKSLPto, TKSLPto) override { NotMade(itArc); }
-    Item& CreateRectangle(TLength, TLength, TLength, TLength) override { NotMade(itRectangle); }
-    Item& CreatePackage(TLength, TLength, TLength, TLength) override { NotMade(itPackage); }
-    Item& CreatePolygon(const TKSLPtoA&) override { NotMade(itPolygon); }
-    Item& CreateCircle(TKSLPto, TLength) override { NotMade(itCircle); }
-    Item& CreateCircle2P(TKSLPto, TKSLPto) override { NotMade(itCircle); }
-    Item& CreateCircle3P(TKSLPto, TKSLPto, TKSLPto) override { NotMade(itCircle); }
-    Item& CreateSector(TKSLPto, TLength, float, float) override { NotMade(itSector); }
-    Item& CreateSector2P(TKSLPto, TKSLPto, float, float) override { NotMade(itSector); }
-    Item& CreateSector3P(TKSLPto, TKSLPto, TKSLPto, float, float) override { NotMade(itSector); }
-    Item& CreateLevel(TKSLPto, TLength) override { NotMade(itLevel); }
-    Item& CreateEllipse(TKSLPto, TLength, TLength) override { NotMade(itEllipse); }
-    Item& CreateBarcode(TLength, TLength, TView, TKSLBarType) override { NotMade(itBarcode); }
-    Item& CreatePDF417(TLength, TLength, TView) override { NotMade(itPDF417); }
-    Item& CreateDataMatrix(TLength, TLength, TView) override { NotMade(itDataMatrix); }
-    Item& CreateQRCode(TLength, TLength, TView) override { NotMade(itQRCode); }
-    Item& CreateImage(TLength, TLength, TLength, TLength, bool, TView) override { NotMade(itImage); }
-    Item& CreateFlow(TLength, TLength, TLength, TLength, TKSLFlowType) override { NotMade(itFlow); }
-    Item& CreateLink(const TKSLink&, const TKSLink&, TKSLinkType) override { NotMade(itLink); }
-    Item& CreatePolyLink(const TKSLink&, const TKSLink&, TKSLinkType, const TKSLPtoA&) override { NotMade(itLink); }
-    Item& CreateTable(TLength, TLength, TLength, TLength) override { NotMade(itTable); }
-    Item& CreatePolyText(TLength, TLength) override { NotMade(itPolyText); }
-    Item& CreateRank(TLength, TLength, TLength, TLength) override { NotMade(itRank); }
-    Item& CreateNutriScore(TLength, TLength, TLength, TLength) override { NotMade(itNutriScore); }
-    Item& CreateSymbol(TLength, TLength) override { NotMade(itSymbol); }
-    Item& CreateDim(TKSLPto, TKSLPto, TKSLPto) override { NotMade(itDim); }
-    Item& CreateDimAng(const TKSLRefLine&, const TKSLRefLine&, TKSLPto) override { NotMade(itDim); }
-    Item& CreateDimRad1(TKSLPto, TLength, double) override { NotMade(itDim); }
-    Item& CreateDimRad2(TKSLPto, TLength, double) override { NotMade(itDim); }
-    Item& CreateDimDia1(TKSLPto, TLength, double) override { NotMade(itDim); }
-    Item& CreateDimDia2(TKSLPto, TLength, double) override { NotMade(itDim); }
-    Item& CreateElementFromStream(std::string_view) override { NotDone(u"CreateElementFromStream"); }
-    void PasteSelection() override { NotDone(u"PasteSelection"); }
+    /// By the first character: JSON in UTF-8 or UTF-16, or the binary form.
+    void LoadFromFile(TView filename) override;
+    /// Writes the document whole or not at all. Throws EStreamError.
+    void SaveToFile(TView filename, TKSLExt format) override;
+    void ReadDocument(TJsonObject& root);
+    void ReadDocument(std::string_view bytes);
+    /// The bytes of the binary file: the document's blocks, then the counted symbols, then the counted items.
+    std::string ToBinary() const;
+
+    /// Makes the preview copies anew: one of each item that is bound to data for each cell of the sheet.
+    /// Throws EOutOfRange for a sheet of more than 10,000 cells.
+    void MakePreview();
+
+    Item& CreateText(TLength x, TLength y) override;
+    Item& CreatePara(TLength x, TLength y, TLength width, TLength height) override;
+    Item& CreateRichText(TLength x, TLength y, TLength width, TLength height) override;
+    Item& CreatePoint(TLength x, TLength y) override;
+    Item& CreateLine(TLength x1, TLength y1, TLength x2, TLength y2) override;
+    Item& CreateArrowLine(TLength x1, TLength y1, TLength x2, TLength y2) override;
+    Item& CreatePolyLine(const TKSLPtoA& points) override;
+    Item& CreateBezier(const TKSLPtoA& points) override;
+    Item& CreateArc(TKSLPto first, TKSLPto second, TKSLPto third) override;
+    Item& CreateRectangle(TLength x, TLength y, TLength width, TLength height) override;
+    Item& CreatePackage(TLength x, TLength y, TLength width, TLength height) override;
+    Item& CreatePolygon(const TKSLPtoA& points) override;
+    Item& CreateCircle(TKSLPto center, TLength radius) override;
+    /// Throws EInvalidOperation for three points of a line, as `CreateSector3P`.
+    Item& CreateCircle3P(TKSLPto first, TKSLPto second, TKSLPto third) override;
+    Item& CreateCircle2P(TKSLPto first, TKSLPto second) override;
+    Item& CreateSector(TKSLPto center, TLength radius, float start, float end) override;
+    Item& CreateSector2P(TKSLPto first, TKSLPto second, float start, float end) override;
+    Item& CreateSector3P(TKSLPto first, TKSLPto second, TKSLPto third, float start, float end) override;
+    Item& CreateLevel(TKSLPto center, TLength radius) override;
+    Item& CreateEllipse(TKSLPto center, TLength radiusX, TLength radiusY) override;
+    Item& CreateBarcode(TLength x, TLength y, TView text, TKSLBarType type) override;
+    Item& CreatePDF417(TLength x, TLength y, TView text) override;
+    Item& CreateDataMatrix(TLength x, TLength y, TView text) override;
+    Item& CreateQRCode(TLength x, TLength y, TView text) override;
+    Item& CreateImage(TLength x, TLength y, TLength width, TLength height, bool keepAspect, TView source) override;
+    Item& CreateFlow(TLength x, TLength y, TLength width, TLength height, TKSLFlowType type) override;
+    Item& CreateLink(const TKSLink& from, const TKSLink& to, TKSLinkType type) override;
+    Item& CreatePolyLink(const TKSLink& from, const TKSLink& to, TKSLinkType type, const TKSLPtoA& points) override;
+    Item& CreateTable(TLength x, TLength y, TLength width, TLength height) override;
+    Item& CreatePolyText(TLength x, TLength y) override;
+    Item& CreateRank(TLength x, TLength y, TLength width, TLength height) override;
+    Item& CreateNutriScore(TLength x, TLength y, TLength width, TLength height) override;
+    Item& CreateSymbol(TLength x, TLength y) override;
+    Item& CreateDim(TKSLPto first, TKSLPto second, TKSLPto position) override;
+    Item& CreateDimAng(const TKSLRefLine& first, const TKSLRefLine& second, TKSLPto side) override;
+    Item& CreateDimRad1(TKSLPto center, TLength radius, double angle) override;
+    Item& CreateDimRad2(TKSLPto center, TLength radius, double angle) override;
+    Item& CreateDimDia1(TKSLPto center, TLength radius, double angle) override;
+    Item& CreateDimDia2(TKSLPto center, TLength radius, double angle) override;
+    Item& CreateElementFromStream(std::string_view snapshot) override;
+    void PasteSelection() override;
     void Print() override { NotDone(u"Print"); }
     void ExportDoc(TKSLExport, TView, int, float, int, bool, bool, bool) override { NotDone(u"ExportDoc"); }
-    void LoadFromFile(TView) override { NotDone(u"LoadFromFile"); }
-    void SaveToFile(TView, TKSLExt) override { NotDone(u"SaveToFile"); }
+
+protected:
+    using TVGRBaseLabel::TVGRBaseLabel;
+
+    /// Constructs this host's item of a type, or a preview copy of it, on a layer; the document owns it. `points` is
+    /// the number of its points, for the types that have any number. Throws ENotAvailable for a type that this host has
+    /// no class for, EVagrel for a number that is no type.
+    virtual Item& MakeItem(TVGRLayer& layer, TKSLItemType type, int points, bool preview) = 0;
 
 private:
-    [[noreturn]] static void NotMade(TKSLItemType type) {
-        throw ENotAvailable(u"This host makes no items of the type " + std::u16string(NameItem(type)));
-    }
     [[noreturn]] static void NotDone(TView operation) {
         throw ENotAvailable(u"This host has no " + std::u16string(operation));
     }
+    /// An item on the active layer at the given points, which `finish` completes before anybody is told of it.
+    Item& Make(TKSLItemType type, const TKSLPtoA& points = {}, const std::function<void(Item&)>& finish = {});
+    /// The next item of a snapshot or of the clipboard; none is left when it is damaged.
+    Item& ReadItem(std::int32_t version, TBinaryReader& reader, TKSLReadType type);
+    void ReadParts(TJsonObject& root);
+    void ReadBlocks(TBinaryReader& reader);
 };
 
 } // namespace vagrel

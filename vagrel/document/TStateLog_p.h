@@ -28,7 +28,8 @@ struct TStateLog {
     bool modified = false;
     bool inGroup = false;
     std::int32_t group = 0;
-    int scopes = 0;
+    /// It keeps the document that stood before the one that is read.
+    bool isStash = false;
 };
 
 } // namespace vagrel::detail

@@ -63,6 +63,17 @@ void TUndoStacks::PutBack(TStack& stack, TStack& step) {
     std::move(step.rbegin(), step.rend(), std::back_inserter(stack));
 }
 
+TUndoStacks::TKept TUndoStacks::PutAside() {
+    return {std::exchange(undo, {}), std::exchange(redo, {}), fUnReID, std::exchange(fRetired, {})};
+}
+
+void TUndoStacks::BringBack(TKept kept) {
+    undo = std::move(kept.undo);
+    redo = std::move(kept.redo);
+    fUnReID = kept.group;
+    fRetired = std::move(kept.retired);
+}
+
 bool TUndoStacks::RedoHoldsTransaction() const {
     return std::ranges::any_of(redo, [](const TVGRCmd& each) { return each.fKind == ckState && each.fIndex != 0; });
 }

@@ -57,6 +57,15 @@ public:
     std::int32_t StepGroup() const { return fUnReRef; }
     bool RedoHoldsTransaction() const;
 
+    /// What stands on the stacks, to be put aside and brought back.
+    struct TKept {
+        TStack undo, redo;
+        std::int32_t group;
+        std::vector<std::shared_ptr<void>> retired;
+    };
+    TKept PutAside();
+    void BringBack(TKept kept);
+
     /// Forgets all commands; numbers begin anew.
     void Clear();
     /// Keeps what left the document while commands may hold its address.

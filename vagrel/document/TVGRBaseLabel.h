@@ -293,7 +293,7 @@ public:
     std::u16string RedoName() const;
     std::u16string UndoAuthor() const;
     std::u16string RedoAuthor() const;
-    bool InTransaction() const { return !fLogs.empty(); }
+    bool InTransaction() const;
     /// True while a step is undone or redone; a second one does nothing then.
     bool IsReplaying() const { return fStepping; }
 
@@ -611,6 +611,10 @@ protected:
                           const std::function<void(TVGRBaseItem&)>& initialise = {});
     /// Takes an item out of every list and destroys it.
     void FreeItem(TVGRBaseItem& item);
+    /// Reads a whole document, all or nothing: `read` runs in the bracket of a full read, over a document as it is
+    /// made. When it throws, the document that stood before stands again, with its handles and its undo; then the
+    /// exception goes on. Folders, options, language, the host's data sources, clipboard and printer stay in any case.
+    void ReadWhole(const std::function<void()>& read);
     /// The steps of a paste; nothing for an empty clipboard. `read` constructs the next item and lets it read itself,
     /// each of which is selected then. Not recorded.
     void ReadClipboard(const std::function<void(std::int32_t version, TBinaryReader& reader)>& read);
@@ -664,6 +668,9 @@ private:
     /// Exchanges what a log keeps with what stands, which puts the log on the other side of the change.
     void ExchangeState(detail::TStateLog& log);
     void TellExchanged(const detail::TStateLog& log);
+    void RestoreLog(detail::TStateLog& log);
+    void ReadBracket(const std::function<void()>& read);
+    void ResetParts();
     /// The document's own fields and those of its single parts.
     void PageMembers(TMembers& members);
     /// Takes an element out of its list, for a log or for good.

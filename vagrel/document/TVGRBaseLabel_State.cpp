@@ -95,20 +95,24 @@ bool TVGRBaseLabel::CommitLog(bool isTransaction) {
     return true;
 }
 
+void TVGRBaseLabel::RestoreLog(TStateLog& log) {
+    const bool opened = fStacks->InGroup() && !log.inGroup;
+    log.items.Settle(fItems);
+    log.layers.Settle(fLayers);
+    log.styles.Settle(fDimStyles);
+    log.counters.Settle(fCounters);
+    ExchangeState(log);
+    fMaxID = log.maxID;
+    fModified = log.modified;
+    fStacks->RestoreGroup(log.group, log.inGroup);
+    if (opened)
+        fStates -= {lsUpdating, lsNoPaint};
+}
+
 void TVGRBaseLabel::RollBackLog() {
     const TLog log = fLogs.back();
     fLogs.pop_back();
-    const bool opened = fStacks->InGroup() && !log->inGroup;
-    log->items.Settle(fItems);
-    log->layers.Settle(fLayers);
-    log->styles.Settle(fDimStyles);
-    log->counters.Settle(fCounters);
-    ExchangeState(*log);
-    fMaxID = log->maxID;
-    fModified = log->modified;
-    fStacks->RestoreGroup(log->group, log->inGroup);
-    if (opened)
-        fStates -= {lsUpdating, lsNoPaint};
+    RestoreLog(*log);
     const TFinally shown{[this] {
         FillSelPoints();
         Refresh();
@@ -118,7 +122,79 @@ void TVGRBaseLabel::RollBackLog() {
 
 void TVGRBaseLabel::DropLogs() {
     // The elements that were parked end with the last one who holds a log.
-    const std::vector<TLog> ends = std::exchange(fLogs, {});
+    std::vector<TLog> ends = std::exchange(fLogs, {});
+    if (!ends.empty() && ends.front()->isStash)
+        fLogs.push_back(ends.front());
+}
+
+bool TVGRBaseLabel::InTransaction() const { return !fLogs.empty() && !fLogs.back()->isStash; }
+
+// Reading
+
+void TVGRBaseLabel::ResetParts() {
+    auto renew = [](auto& part, auto&& fresh) {
+        TImage blank = ImageOf(fresh);
+        ExchangeImage(part, blank);
+    };
+    renew(*fMeasure, TVGRMeasure(*this));
+    renew(*fBackSurf, TVGRBackSurf(*this, true));
+    renew(*fSettings, TVGRSettings(*this));
+    TVGRBasePrintInfo fresh(*this);
+    fresh.fPrinterName = fPrintInfo->fPrinterName;
+    fresh.fPrinterIndex = fPrintInfo->fPrinterIndex;
+    renew(*fPrintInfo, fresh);
+    fActiveLayer = fActiveDimStyle = 0;
+}
+
+void TVGRBaseLabel::ReadBracket(const std::function<void()>& read) {
+    BeginRead(false);
+    ResetParts();
+    try {
+        read();
+    } catch (...) {
+        // The bracket is closed whatever happens; the first fault is the one to tell.
+        try {
+            EndRead(true);
+        } catch (...) {
+        }
+        throw;
+    }
+    // What can still fail is the data text, which is parsed last.
+    AtPlace("Data: DataJson", [&] { EndRead(true); });
+}
+
+void TVGRBaseLabel::ReadWhole(const std::function<void()>& read) {
+    DropLogs();
+    std::vector<TItemHandle> selected;
+    for (TVGRBaseItem* item : fSelection)
+        selected.emplace_back(*item);
+    auto commands = fStacks->PutAside();
+    const TLog stash = OpenLog();
+    stash->isStash = true;
+    stash->data = ImageOf(*fData);
+    try {
+        ReadBracket(read);
+    } catch (...) {
+        fLogs.clear();
+        RestoreLog(*stash);
+        fStacks->BringBack(std::move(commands));
+        for (const TItemHandle& item : selected)
+            if (item) {
+                item->SetState(isSelected);
+                fSelection.push_back(item.Get());
+            }
+        try {
+            FillSelPoints();
+            TellExchanged(*stash);
+            TellUndoRedo();
+            CheckIntersetions();
+            Refresh();
+        } catch (...) {
+            // The first fault is the one to tell.
+        }
+        throw;
+    }
+    fLogs.clear();
 }
 
 void TVGRBaseLabel::ExchangeState(TStateLog& log) {

@@ -25,7 +25,7 @@ std::int32_t TVGRBaseLabel::UnReID() { return fStacks->NextGroup(); }
 void TVGRBaseLabel::TellUndoRedo() {
     // While an item is half built it is owed.
     fTellOwed = fCreating > 0;
-    if (!OnUndoRedo || fDestroying || fTellOwed || !fLogs.empty())
+    if (!OnUndoRedo || fDestroying || fTellOwed || InTransaction())
         return;
     const TKSLUndoRedoEvent told = OnUndoRedo; // which the host may replace in it
     try {
@@ -48,7 +48,7 @@ bool TVGRBaseLabel::Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t in
     if (kind == ckColor)
         AddState(lsUpdate);
     Touch(item);
-    if (!fOptions.Has(loUndoRedo) || item.FromPreview() || fStacks->replay == TReplay::Back || !fLogs.empty())
+    if (!fOptions.Has(loUndoRedo) || item.FromPreview() || fStacks->replay == TReplay::Back || InTransaction())
         return true;
     const std::shared_ptr<TVGRReceiver> receiver = item.Receiver();
     if (fStacks->Coalesces(kind, index, receiver))
@@ -121,7 +121,7 @@ void TVGRBaseLabel::Redo() { Step(TReplay::Redo); }
 
 void TVGRBaseLabel::Step(TReplay direction) {
     std::vector<TVGRCmd>& from = direction == TReplay::Undo ? fStacks->undo : fStacks->redo;
-    if (fStepping || !fLogs.empty() || from.empty())
+    if (fStepping || InTransaction() || from.empty())
         return;
     fStepping = true;
     fStepFault = nullptr;

@@ -109,9 +109,9 @@ void TVGRCounter::Members(TMembers& members) {
 
 // Within their limits: step and repeat divide, and a range that is turned round has no values.
 void TVGRCounter::TakeRead() {
-    SetNumTo(fNumTo);
+    fRepeat = std::max<std::int16_t>(fRepeat, 1);
     SetStep(fStep);
-    SetRepeat(fRepeat);
+    SetNumTo(fNumTo);
 }
 
 void TVGRCounter::WriteJson(TJsonArray& counters) const { WriteKeys(*this, counters.AddObject()); }
