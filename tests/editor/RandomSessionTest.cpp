@@ -87,6 +87,12 @@ public:
         Play(line + "}");
     }
 
+    // While a transaction is open nothing is undone.
+    void EndTransactions() {
+        while (!fSession.transactions.empty())
+            fSession.transactions.pop_back();
+    }
+
     // What a host relies on between two events.
     void Check() const {
         for (int i = 1; i <= label.SelectionCount(); ++i)
@@ -288,6 +294,7 @@ TEST_P(RandomSessions, WhateverComesTheDocumentStaysWhole) {
         player.Anything();
         ASSERT_NO_FATAL_FAILURE(player.Check()) << player.last;
     }
+    player.EndTransactions();
     UndoAll(player.label);
     RedoAll(player.label);
     UndoAll(player.label);
