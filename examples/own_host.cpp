@@ -97,7 +97,6 @@ public:
         return picture;
     }
 
-protected:
     // All items of this host come from here.
     Item& MakeItem(TVGRLayer& layer, TKSLItemType type, int, bool preview) override {
         switch (type) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as a binary document: refused with an exception of the library, or read and written to the same document.
-#include <tests/support/TestHost.h>
+#include <host/HostLabel.h>
+#include <tests/support/StubItem.h>
 #include <vagrel/foundation/Exceptions.h>
 
 #include <cstdlib>

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Any lines as a session: each is played or refused, and the document still writes itself and goes back.
 #include <host/Session.h>
-#include <tests/support/TestHost.h>
+#include <host/HostLabel.h>
+#include <tests/support/StubItem.h>
 #include <vagrel/editor/TAct.h>
 #include <vagrel/foundation/Exceptions.h>
 
@@ -24,6 +25,8 @@ extern "C" int LLVMFuzzerTestOneInput(const char* data, std::size_t size) {
         }
         text.remove_prefix(std::min(end + 1, text.size()));
     }
+    while (!session.transactions.empty())
+        session.transactions.pop_back();
     label.GetJsonString(true);
     while (!label.IsUndoEmpty())
         label.Undo();

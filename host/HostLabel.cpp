@@ -2,9 +2,10 @@
 // The document of the reference host.
 #include <host/HostLabel.h>
 
-#include <host/ItemRegistry.h>
+#include <host/HostBarcode.h>
+#include <host/HostText.h>
+#include <host/ItemTable.h>
 #include <host/PangoText.h>
-#include <vagrel/document/TVGRBaseItem.h>
 
 namespace vagrel {
 
@@ -19,7 +20,7 @@ HostLabel::HostLabel(TComponent* owner, const TextMeasurer& measurer) : PartialL
 HostLabel::~HostLabel() { Teardown(); }
 
 TVGRBaseItem& HostLabel::MakeItem(TVGRLayer& layer, TKSLItemType type, int points, bool preview) {
-    return vagrel::MakeItem(*this, layer, type, points, preview);
+    return ItemTable<HostItem, HostText, HostBarcode>::Make(*this, layer, type, points, preview);
 }
 
 void HostLabel::Print() { throw ENotAvailable(u"This host has no printer"); }

@@ -23,15 +23,13 @@ public:
     /// of the context's cell stand for the items that are bound to data.
     void PaintItems(const CairoDraw& draw) const;
 
+    TVGRBaseItem& MakeItem(TVGRLayer& layer, TKSLItemType type, int points, bool preview) override;
     void Print() override;
     /// Writes the sheet `page`, or all of them for 0. A picture has 96 × `scale` dots per inch. `checkData` prepares
     /// the merge first; without it the merge must stand. `fit` writes the label alone, cut to what stands on it. Throws
     /// ENotAvailable for XPS and GIF, EOutOfRange for a page that does not exist.
     void ExportDoc(TKSLExport type, std::u16string_view filename, int page, float scale, int quality, bool checkData,
                    bool transparent, bool fit) override;
-
-protected:
-    TVGRBaseItem& MakeItem(TVGRLayer& layer, TKSLItemType type, int points, bool preview) override;
 
 private:
     const TextMeasurer& fMeasurer;

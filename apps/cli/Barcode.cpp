@@ -3,7 +3,6 @@
 #include "Commands.h"
 
 #include <host/HostLabel.h>
-#include <host/ItemRegistry.h>
 #include <host/PageWriter.h>
 #include <vagrel/barcode/TVGRBaseBarcode.h>
 #include <vagrel/barcode/TVGRBaseMatrixCode.h>
@@ -58,7 +57,7 @@ TVGRBaseCode& MakeCode(HostLabel& label, int type) {
                               : type == DataMatrix ? itDataMatrix
                               : type == Pdf417     ? itPDF417
                                                    : itBarcode;
-    return dynamic_cast<TVGRBaseCode&>(MakeItem(label, label.ActiveLayer(), item, 0));
+    return dynamic_cast<TVGRBaseCode&>(label.MakeItem(label.ActiveLayer(), item, 0, false));
 }
 
 // Quiet zones of the published symbologies, in modules.

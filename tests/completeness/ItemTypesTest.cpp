@@ -5,7 +5,6 @@
 #include <tests/completeness/Sources.h>
 #include <tests/support/ItemSuite.h>
 
-#include <host/ItemRegistry.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/editor/TAct.h>
 #include <vagrel/foundation/Exceptions.h>
@@ -177,13 +176,13 @@ TEST(Completeness, EveryTypeIsThereOrSaysThatItIsNot) {
         EXPECT_TRUE(std::ranges::count(Factories, type, &TFactory::type)) << "no factory";
         TestHost label;
         if (available.contains(type)) {
-            EXPECT_EQ(MakeItem(label, label.ActiveLayer(), type, 4).GetItemType(), type);
+            EXPECT_EQ(label.MakeItem(label.ActiveLayer(), type, 4, false).GetItemType(), type);
             EXPECT_TRUE(SampleOf(type)) << "not in the shared suite";
             continue;
         }
         EXPECT_FALSE(SampleOf(type));
         try {
-            MakeItem(label, label.ActiveLayer(), type, 4);
+            label.MakeItem(label.ActiveLayer(), type, 4, false);
             ADD_FAILURE() << "made, and not in the registry";
         } catch (const ENotAvailable& error) {
             EXPECT_NE(std::string(error.what()).find(name), std::string::npos) << error.what();

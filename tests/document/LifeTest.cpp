@@ -2,7 +2,7 @@
 // Who owns what, and what is left behind when a construction fails.
 #include <tests/support/TestHost.h>
 
-#include <host/HostItem.h>
+#include <tests/support/StubItem.h>
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/items/lines/TVGRBaseLine.h>
 

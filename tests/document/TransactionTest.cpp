@@ -2,8 +2,6 @@
 // Transactions: one step or none, back to the byte, whatever happens in between.
 #include <tests/support/ItemSuite.h>
 
-#include <host/ItemRegistry.h>
-
 #include <vagrel/document/TVGRBackSurf.h>
 #include <vagrel/document/TVGRBasePrintInfo.h>
 #include <vagrel/document/TVGRLayer.h>

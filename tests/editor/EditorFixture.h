@@ -5,7 +5,7 @@
 
 #include <tests/document/ProbeItem.h>
 
-#include <host/HostItem.h>
+#include <tests/support/StubItem.h>
 #include <vagrel/editor/TAct.h>
 #include <vagrel/items/text/TVGRBaseText.h>
 
@@ -77,7 +77,7 @@ public:
 
 /// A text of 10 × 4 mm with its anchor at (20, 10) mm.
 inline TVGRBaseText& MakeText(TVGRBaseLabel& label) {
-    auto& text = *new HostItem<TVGRBaseText>(label, false);
+    auto& text = *new StubItem<TVGRBaseText>(label, false);
     text.SetBase(1, 20000, 10000);
     text.StoreMeasure({10000, 4000, 3200, 800, 0, 1});
     return text;

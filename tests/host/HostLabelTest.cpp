@@ -2,6 +2,7 @@
 // The reference host: what its factories make, and files that are good, bad or out of reach.
 #include <tests/support/TestHost.h>
 
+#include <host/HostLabel.h>
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>

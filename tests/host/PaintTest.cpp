@@ -2,7 +2,8 @@
 // The host paints what the SVG of a document shows: both pictures of every kind of item, the SVG's by a rasteriser that
 // nobody here wrote.
 #include <host/CairoDraw.h>
-#include <host/ItemRegistry.h>
+#include <host/HostItem.h>
+#include <host/HostLabel.h>
 #include <host/PangoText.h>
 #include <host/Picture.h>
 #include <tests/support/ItemSuite.h>

@@ -2,7 +2,9 @@
 // Sheets of labels: which cells a page uses, what stands in them, and the files that they become.
 #include <tests/merge/MergeFixture.h>
 
+#include <host/HostLabel.h>
 #include <host/PageWriter.h>
+#include <tests/support/StubItem.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/items/text/TVGRBaseText.h>
@@ -14,7 +16,8 @@ namespace fs = std::filesystem;
 
 // Two rows and three columns of labels of 50 × 30 mm, four records.
 struct SheetTest : testing::Test {
-    TestHost label;
+    const FixedTextMeasurer measurer;
+    HostLabel label{nullptr, measurer};
     TempFile csv{"\xEF\xBB\xBFName;Price\nA;1\nB & Söhne;2\nC;3\nD;4\n"};
     fs::path folder = fs::temp_directory_path() / ("vagrel-sheet-" + std::to_string(getpid()));
 

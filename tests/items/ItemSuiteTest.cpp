@@ -2,7 +2,6 @@
 // What holds for every kind of item that the host can make. A kind without a sample fails all of it.
 #include <tests/support/ItemSuite.h>
 
-#include <host/ItemRegistry.h>
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Exceptions.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The single-line text: limits, place, binding and SVG. A fixed measurer gives every code unit 0.6 em.
+#include <tests/support/StubItem.h>
 #include <tests/support/TestHost.h>
 
-#include <host/HostItem.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Text.h>

@@ -2,8 +2,7 @@
 // The samples of the items' suite.
 #include <tests/support/ItemSuite.h>
 
-#include <host/HostItem.h>
-#include <host/ItemRegistry.h>
+#include <tests/support/StubItem.h>
 #include <vagrel/barcode/TVGRBaseBarcode.h>
 #include <vagrel/barcode/TVGRBaseDataMatrix.h>
 #include <vagrel/barcode/TVGRBasePDF417.h>
@@ -31,7 +30,7 @@ namespace {
 
 template <class Family>
 TVGRBaseItem& Preview(TVGRBaseLabel& label) {
-    return *new HostItem<Family>(label, true);
+    return *new StubItem<Family>(label, true);
 }
 
 const TKSLPtoA Box{{100000, 100000}, {200000, 180000}};
@@ -120,8 +119,8 @@ const TItemSample* SampleOf(TKSLItemType type) {
     return hit == std::end(Samples) ? nullptr : &*hit;
 }
 
-TVGRBaseItem& MakeSample(TVGRBaseLabel& label, const TItemSample& sample) {
-    TVGRBaseItem& item = MakeItem(label, label.ActiveLayer(), sample.type, int(sample.points.size()));
+TVGRBaseItem& MakeSample(PartialLabel& label, const TItemSample& sample) {
+    TVGRBaseItem& item = label.MakeItem(label.ActiveLayer(), sample.type, int(sample.points.size()), false);
     item.AssignPoints(sample.points);
     const UpdateScope measuring(label);
     if (auto* text = Query<IKSLText>(&item))

@@ -31,7 +31,7 @@ struct TItemSample {
 const TItemSample* SampleOf(TKSLItemType type);
 
 /// The sample's item on the active layer.
-TVGRBaseItem& MakeSample(TVGRBaseLabel& label, const TItemSample& sample);
+TVGRBaseItem& MakeSample(PartialLabel& label, const TItemSample& sample);
 
 using TSetter = std::function<void()>;
 

@@ -1,22 +1,13 @@
 // SPDX-License-Identifier: MIT
-// What tests of the document share: the reference host with texts of fixed size, and an observer that keeps what it is
+// What tests of the document share: a host that paints nothing, and an observer that keeps what it is
 // told.
 #pragma once
 
-#include <host/HostLabel.h>
-#include <host/TextMeasurer.h>
+#include <vagrel/document/PartialLabel.h>
 
 #include <vector>
 
 namespace vagrel::test {
-
-/// Every code unit is 0.6 em wide; ascent 0.8 em, descent 0.2 em.
-class FixedTextMeasurer final : public TextMeasurer {
-public:
-    TTextSize Measure(std::u16string_view text, const TFontFace& font) const override {
-        return {0.6 * double(text.size()) * font.height, 0.8 * font.height, 0.2 * font.height};
-    }
-};
 
 /// A change and the payload that came with it.
 struct TTold {
@@ -52,13 +43,19 @@ private:
     TKSDestUpdate fDest;
 };
 
-/// A document of the given mode, unit and scale, with texts of fixed size.
-class TestHost : public HostLabel {
+/// A document of the given mode, unit and scale, with texts of fixed size, that paints nothing. It has the options of
+/// the reference host.
+class TestHost : public PartialLabel {
 public:
     explicit TestHost(TKSLEditorMode mode = emLabelling, TKSLUnits units = unMM, std::int64_t scale = 1);
+    ~TestHost() override { Teardown(); }
 
+    TVGRBaseItem& MakeItem(TVGRLayer& layer, TKSLItemType type, int points, bool preview) override;
     using TVGRBaseLabel::FreeItem;
 };
+
+/// The types that it has a class for.
+std::vector<TKSLItemType> AvailableItemTypes();
 
 /// The document as indented JSON.
 std::u16string JsonOf(const TVGRBaseLabel& label);

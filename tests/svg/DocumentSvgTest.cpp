@@ -3,7 +3,7 @@
 #include <tests/support/ItemSuite.h>
 #include <tests/support/TestHost.h>
 
-#include <host/HostItem.h>
+#include <tests/support/StubItem.h>
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/items/figures/TVGRBaseSector.h>
@@ -53,8 +53,8 @@ struct Marked : TVGRBaseLine {
 
 TEST(DocumentSvg, DefinitionsStandInFront) {
     TestHost label;
-    new HostItem<Marked>(label, false);
-    new HostItem<Marked>(label, false);
+    new StubItem<Marked>(label, false);
+    new StubItem<Marked>(label, false);
     EXPECT_THAT(label.SVG(svCurrentUnit, 1, false), HasSubstr(">\n<defs>\n<g id=\"mark\">\n</g>\n</defs>\n"
                                                               "<use href=\"#mark\"/>\n<use href=\"#mark\"/>\n</svg>"));
 }

@@ -16,6 +16,11 @@ public:
     using TLength = std::int64_t;
     using TView = std::u16string_view;
 
+    /// Constructs this host's item of a type, or a preview copy of it, on a layer; the document owns it. `points` is
+    /// the number of its points, for the types that have any number. Throws ENotAvailable for a type that this host has
+    /// no class for, EVagrel for a number that is no type.
+    virtual Item& MakeItem(TVGRLayer& layer, TKSLItemType type, int points, bool preview) = 0;
+
     // Whole documents. Reading is all or nothing: when it throws, the document that stood before stands again, with its
     // handles and its undo, and the exception, an EVagrel, carries the place. Of that document nothing stays but
     // folders, options, language, the host's data sources, the clipboard and the printer.
@@ -80,11 +85,6 @@ public:
 
 protected:
     using TVGRBaseLabel::TVGRBaseLabel;
-
-    /// Constructs this host's item of a type, or a preview copy of it, on a layer; the document owns it. `points` is
-    /// the number of its points, for the types that have any number. Throws ENotAvailable for a type that this host has
-    /// no class for, EVagrel for a number that is no type.
-    virtual Item& MakeItem(TVGRLayer& layer, TKSLItemType type, int points, bool preview) = 0;
 
 private:
     [[noreturn]] static void NotDone(TView operation) {
