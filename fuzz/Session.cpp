@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Any lines as a session: each is played or refused, and the document still writes itself and goes back.
-#include <host/Session.h>
 #include <host/HostLabel.h>
+#include <host/Session.h>
 #include <tests/support/StubItem.h>
 #include <vagrel/editor/TAct.h>
 #include <vagrel/foundation/Exceptions.h>
