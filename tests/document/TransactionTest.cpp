@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Transactions: one step or none, back to the byte, whatever happens in between.
+#include <tests/document/ProbeItem.h>
 #include <tests/support/ItemSuite.h>
 
 #include <host/ItemRegistry.h>
@@ -207,6 +208,215 @@ TEST_F(Transactions, MeetTheOlderSteps) {
     UndoAll(label);
     line.SetColor(9);
     EXPECT_TRUE(label.IsRedoEmpty());
+}
+
+TEST_F(Transactions, RedoneDeletionsKeepWhatIsStillToBeRedone) {
+    label.DeleteItem(box, true);
+    {
+        Transaction change(label);
+        line.SetColor(5);
+        change.Commit();
+    }
+    const TStand after(label);
+    EXPECT_EQ(UndoAll(label), 2);
+    EXPECT_EQ(RedoAll(label), 2);
+    EXPECT_TRUE(after.Equals(label));
+}
+
+TEST_F(Transactions, EndAllWhenObserversThrow) {
+    const TStand before(label);
+    RecordingObserver editor(duEditor);
+    label.Attach(&editor);
+    {
+        Transaction outer(label);
+        label.CreatePoint(1, 1);
+        const Transaction inner(label);
+        label.CreatePoint(2, 2);
+        editor.onUpdate = [](TKSChange) { throw std::runtime_error("no"); };
+        EXPECT_THROW(outer.Rollback(), std::runtime_error);
+    }
+    EXPECT_FALSE(label.InTransaction());
+    EXPECT_TRUE(before.Equals(label));
+    // A step is made whatever its notices do.
+    editor.onUpdate = {};
+    Transaction change(label);
+    label.CreatePoint(1, 1);
+    label.SetUnits(unCM);
+    change.Commit();
+    editor.onUpdate = [](TKSChange) { throw std::runtime_error("no"); };
+    EXPECT_THROW(label.Undo(), std::runtime_error);
+    EXPECT_TRUE(before.Equals(label));
+    EXPECT_TRUE(label.IsUndoEmpty());
+}
+
+TEST_F(Transactions, BearItemsThatThrowWhenTheyResolve) {
+    struct TRefusing : ProbeItem {
+        using ProbeItem::ProbeItem;
+        void ResolveReferences() override {
+            if (refuses)
+                throw std::runtime_error("no");
+        }
+        bool refuses = false;
+    };
+    auto& item = *new TRefusing(label, itLine, {{0, 0}, {9, 9}});
+    const TStand before(label);
+    Transaction change(label);
+    label.CreatePoint(1, 1);
+    line.SetColor(5);
+    change.Commit();
+    const TStand after(label);
+    item.refuses = true;
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_THROW(label.Undo(), std::runtime_error);
+        EXPECT_TRUE(after.Equals(label));
+    }
+    item.refuses = false;
+    label.Undo();
+    EXPECT_TRUE(before.Equals(label));
+    label.Redo();
+    EXPECT_TRUE(after.Equals(label));
+}
+
+TEST_F(Transactions, CalculateNothingOnTheWayBack) {
+    TVGRBaseItem& text = label.CreateText(3000, 3000);
+    Query<IKSLText>(&text)->SetText(u"not measured yet");
+    label.Clear({cleUndoRedo}, false);
+    const TStand before(label);
+    {
+        Transaction change(label);
+        Query<IKSLText>(&text)->SetText(u"longer than it was");
+        change.Commit();
+    }
+    const TStand after(label);
+    label.Undo();
+    EXPECT_TRUE(before.Equals(label));
+    label.Redo();
+    EXPECT_TRUE(after.Equals(label));
+}
+
+TEST_F(Transactions, LayersOutliveWhatRefersToThem) {
+    // Deleted while nothing is recorded, or behind a step that knows it: undo falls back to the base layer.
+    for (const bool recorded : {true, false}) {
+        TVGRLayer& doomed = label.AddLayer();
+        line.StoreLayer(doomed);
+        Transaction change(label);
+        line.SetColor(TAlphaColor(recorded));
+        change.Commit();
+        if (!recorded)
+            label.SetOptions({});
+        if (recorded) {
+            label.DeleteLayer(2);
+        } else {
+            Transaction deletes(label);
+            label.DeleteLayer(2);
+            deletes.Commit();
+        }
+        label.SetOptions({loUndoRedo});
+        UndoAll(label);
+        EXPECT_EQ(&line.GetLayer(), &label.GetLayer(1));
+        RedoAll(label);
+        EXPECT_EQ(&line.GetLayer(), &label.GetLayer(1));
+        label.Clear({cleUndoRedo}, false);
+    }
+    // A preview copy of an item on a layer that is taken back.
+    {
+        const Transaction lost(label);
+        label.AddLayer();
+        label.SetActiveLayer(2);
+        new ProbeItem(label, itLine, {{0, 0}, {9, 9}}, true);
+        label.Preview().back()->StoreLayer(label.GetLayer(2));
+    }
+    EXPECT_EQ(label.Preview().back()->GetLayer().GetName(), label.GetLayer(1).GetName());
+}
+
+TEST_F(Transactions, ReturningItemsAreNotSelected) {
+    for (const bool commits : {false, true}) {
+        label.SetSelection(&box, isSelected);
+        Transaction change(label);
+        label.DeleteItem(box, true);
+        if (commits) {
+            change.Commit();
+            label.Undo();
+        } else {
+            change.Rollback();
+        }
+        EXPECT_EQ(label.SelectionCount(), 0);
+        EXPECT_EQ(box.GetState(), isNormal);
+    }
+}
+
+TEST_F(Transactions, TurningBearsWhoEndsItInTheMiddle) {
+    RecordingObserver editor(duEditor);
+    label.Attach(&editor);
+    std::unique_ptr<Transaction> left;
+    const std::function<void()> acts[] = {[&] { label.Clear({cleAll}, true); },
+                                          [&] { label.Clear({cleUndoRedo}, true); },
+                                          [&] { left = std::make_unique<Transaction>(label); },
+                                          [&] {
+                                              label.BeginRead(false);
+                                              label.EndRead(true);
+                                          },
+                                          [] { throw std::runtime_error("no"); }};
+    for (const auto& act : acts) {
+        label.CreateLine(1000, 1000, 9000, 5000);
+        auto once = [&, done = false](TKSChange) mutable {
+            if (!std::exchange(done, true))
+                act();
+        };
+        editor.onUpdate = once;
+        try {
+            label.RotateLeft();
+        } catch (const std::runtime_error&) {
+        }
+        editor.onUpdate = {};
+        left.reset();
+        EXPECT_FALSE(label.InTransaction());
+        UndoAll(label);
+    }
+}
+
+TEST_F(Transactions, WatchesMayChangeTheDocumentThatTellsThem) {
+    const TStand before(label);
+    Transaction change(label);
+    label.DeleteItem(box, true);
+    TVGRBaseItem& point = label.CreatePoint(1, 1);
+    change.Commit();
+    const TStand after(label);
+    {
+        int calls = 0;
+        const TItemWatch watch(point, [&](TVGRBaseItem*) {
+            ++calls;
+            EXPECT_EQ(label.ItemsCount(), 2);
+            label.SetSelection(label.GetItem(1), isSelected);
+            label.DeleteItem(label.CreatePoint(5, 5), true);
+        });
+        label.Undo();
+        EXPECT_EQ(calls, 1);
+    }
+    EXPECT_TRUE(before.Equals(label));
+}
+
+TEST_F(Transactions, OweWhatWasMadeByHandBefore) {
+    MakeProbe(label, itLine);
+    {
+        const Transaction idle(label);
+        const UpdateScope bracket(label);
+    }
+    EXPECT_EQ(told, 0);
+    label.BeginUpdate(true);
+    label.EndUpdate();
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(Transactions, EndAReadingThatBeganInside) {
+    const TStand before(label);
+    {
+        const Transaction lost(label);
+        label.BeginRead(true);
+    }
+    EXPECT_FALSE(label.HasAnyState({lsReading, lsUpdating}));
+    EXPECT_TRUE(label.GetOptions().Has(loUndoRedo));
+    EXPECT_TRUE(before.Equals(label));
 }
 
 TEST_F(Transactions, EverySetterOfEveryFamilyIsUndone) {

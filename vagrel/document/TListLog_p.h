@@ -53,6 +53,7 @@ public:
             fBefore = Keys(list, fCount.value_or(list.size()));
     }
     void Park(std::unique_ptr<T> element) { fParked.push_back(std::move(element)); }
+    std::size_t CountParked() const { return fParked.size(); }
 
     /// Ends the keeping: finds what came, went and was moved, and drops images that equal what stands. True when
     /// anything is left.

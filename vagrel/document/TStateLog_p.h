@@ -28,7 +28,6 @@ struct TStateLog {
     bool modified = false;
     bool inGroup = false;
     std::int32_t group = 0;
-    int scopes = 0;
 };
 
 } // namespace vagrel::detail
