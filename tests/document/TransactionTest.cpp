@@ -68,8 +68,10 @@ protected:
 };
 
 TEST_F(Transactions, AreOneStepWhateverTheyHold) {
+    line.SetFixedID(u"another");
     const TStand before(label);
     Transaction change(label, u"a name", u"somebody");
+    line.SetName(); // stored without a command
     line.SetColor(5);
     label.DeleteItem(box, true);
     label.CreateText(3000, 3000);
@@ -560,14 +562,101 @@ protected:
 
     bool Throws() { return throws > 0 && --throws == 0; }
 
+    // What handlers do: they throw, change the document, and open and end transactions of their own.
+    void Mischief() {
+        if (Throws())
+            throw std::runtime_error("handler");
+        if (!mischief || busy || Below(5) != 0)
+            return;
+        busy = true;
+        const TFinally idle{[this] { busy = false; }};
+        switch (Below(8)) {
+        case 0:
+            label.CreatePoint(Below(900), Below(900));
+            return;
+        case 1:
+        case 2:
+            return label.ItemsCount() > 0 ? label.DeleteItem(*Any(), Below(2)) : void();
+        case 3:
+            return label.Clear({cleItems}, Below(2));
+        case 4:
+            return label.Undo();
+        case 5: {
+            Transaction own(label);
+            Act();
+            return void(Below(2) && own.Commit());
+        }
+        case 6:
+            return label.PaintEditor();
+        default:
+            return Act();
+        }
+    }
+
+    // The same, and what ends transactions of others or outlives them.
+    void Havoc() {
+        if (busy || Below(5) != 0)
+            return Mischief();
+        busy = true;
+        const TFinally idle{[this] { busy = false; }};
+        switch (Below(11)) {
+        case 0:
+            return label.New();
+        case 1:
+            return label.Clear(Below(2) ? TKSLClearSet{cleUndoRedo} : TKSLClearSet{cleItems, cleLayers}, true);
+        case 2:
+            return label.Redo();
+        case 3:
+        case 4:
+            if (!label.HasAnyState({lsReading}) && !label.IsReplaying())
+                open.push_back(std::make_unique<Transaction>(Below(3) ? label : other));
+            return;
+        case 5:
+        case 6:
+            if (!open.empty()) {
+                const auto ended = std::move(open[std::size_t(Below(int(open.size())))]);
+                std::erase(open, nullptr);
+                Below(2) ? void(ended->Commit()) : ended->Rollback();
+            }
+            return;
+        case 7:
+            return Below(2) ? label.BeginUpdate(true) : label.EndUpdate();
+        case 8:
+            label.SetOptions(Below(2) ? TVagrelOptions{loUndoRedo} : TVagrelOptions{});
+            return;
+        case 9:
+            label.BeginRead(Below(2));
+            return label.EndRead(true);
+        default:
+            return other.ItemsCount() > 9 ? other.New() : void(other.CreatePoint(1, 1));
+        }
+    }
+
+    void Handle(std::function<void()> handler) {
+        if (!handler)
+            handler = [] {};
+        editor.onUpdate = [handler](TKSChange) { handler(); };
+        label.OnSelectItem = label.OnUnSelectItem = [handler](auto&&...) { handler(); };
+        label.OnLabelRotate = [handler](auto&&...) { handler(); };
+    }
+
+    static unsigned Rounds(unsigned usual) {
+        const char* seeds = std::getenv("VAGREL_SEEDS");
+        return seeds ? unsigned(std::atoi(seeds)) : usual;
+    }
+
     std::mt19937 random;
     int depth = 0, throws = 0;
+    bool mischief = false, busy = false;
     TShaky label{emLabelling};
+    TestHost other;
+    RecordingObserver editor{duEditor};
+    std::vector<std::unique_ptr<Transaction>> open;
 };
 
 TEST_P(RandomTransactions, GoBackAndForthToTheByte) {
-    const char* seeds = std::getenv("VAGREL_SEEDS");
-    for (unsigned round = 0; round < (seeds ? unsigned(std::atoi(seeds)) : 12u); ++round) {
+    label.Attach(&editor);
+    for (unsigned round = 0; round < Rounds(12); ++round) {
         const unsigned seed = GetParam() * 1000003 + round;
         random.seed(seed);
         label.New();
@@ -575,21 +664,16 @@ TEST_P(RandomTransactions, GoBackAndForthToTheByte) {
         for (int i = 0; i < 6; ++i)
             Act();
         label.Clear({cleUndoRedo}, false);
-        RecordingObserver editor(duEditor);
-        label.Attach(&editor);
-        auto handler = [this](auto&&...) {
-            if (Throws())
-                throw std::runtime_error("handler");
-        };
-        editor.onUpdate = handler;
-        label.OnSelectItem = label.OnUnSelectItem = handler;
+        Handle([this] { Mischief(); });
         label.throwing = [this] { return Throws(); };
 
         std::vector<TStand> stands;
         stands.emplace_back(label);
         for (int step = 0; step < 5; ++step) {
             Transaction change(label);
+            mischief = true;
             Program();
+            mischief = false;
             throws = 0;
             if (Below(4) == 0) {
                 change.Rollback();
@@ -607,7 +691,41 @@ TEST_P(RandomTransactions, GoBackAndForthToTheByte) {
             for (std::size_t at = 0; at < stands.size(); ++at, label.Redo())
                 ASSERT_TRUE(stands[at].Equals(label)) << "seed " << seed << " forth at " << at;
         }
-        label.OnSelectItem = label.OnUnSelectItem = {};
+        Handle({});
+    }
+}
+
+// Nothing is promised of such sessions but that the document stays one that can be written and undone.
+TEST_P(RandomTransactions, LeaveAWholeDocumentWhateverHandlersDo) {
+    for (unsigned round = 0; round < Rounds(12); ++round) {
+        random.seed(GetParam() * 2000003 + round);
+        SCOPED_TRACE(round);
+        label.Attach(&editor);
+        Handle([this] { Havoc(); });
+        label.OnUndoRedo = [this](auto&&...) { Havoc(); };
+        mischief = true;
+        for (int step = 0; step < 12; ++step) {
+            try {
+                Program();
+                Below(2) ? label.Undo() : label.Redo();
+            } catch (const std::exception&) {
+            }
+            for (int i = 1; i <= label.SelectionCount(); ++i)
+                ASSERT_EQ(label.SearchItem(label.GetSelection(i)->GetInID(), false) != nullptr, true);
+            for (int i = 1; i <= label.ItemsCount(); ++i)
+                ASSERT_GE(label.LayerIdx(label.GetItem(i)->GetLayer()), 0);
+        }
+        mischief = false;
+        Handle({});
+        label.OnUndoRedo = {};
+        open.clear();
+        EXPECT_FALSE(label.InTransaction());
+        label.SetOptions({loUndoRedo});
+        UndoAll(label);
+        const auto json = JsonOf(label);
+        RedoAll(label);
+        UndoAll(label);
+        label.New();
     }
 }
 

@@ -69,6 +69,10 @@ bool TVGRBaseLabel::Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t in
         fStacks->DropLast(kind, index, receiver); // nothing will change
         throw;
     }
+    if (!fLogs.empty()) { // the event has opened a transaction, to which the change belongs
+        fStacks->DropLast(kind, index, receiver);
+        Touch(item);
+    }
     return receiver->item == &item;
 }
 
@@ -225,6 +229,8 @@ void TVGRBaseLabel::Replay(const TVGRCmd& command, TReplay direction) {
 }
 
 void TVGRBaseLabel::Revive(const TVGRCmd& deletion, TReplay direction) {
+    if (deletion.fReceiver->item)
+        return; // it is back by another way
     fStacks->replay = direction;
     const TFinally end{[this] { fStacks->replay = TReplay::None; }};
     {
