@@ -613,7 +613,7 @@ protected:
             return;
         case 5:
         case 6:
-            if (!open.empty()) {
+            if (!open.empty() && !label.HasAnyState({lsReading})) {
                 const auto ended = std::move(open[std::size_t(Below(int(open.size())))]);
                 std::erase(open, nullptr);
                 Below(2) ? void(ended->Commit()) : ended->Rollback();
@@ -625,6 +625,8 @@ protected:
             label.SetOptions(Below(2) ? TVagrelOptions{loUndoRedo} : TVagrelOptions{});
             return;
         case 9:
+            if (label.HasAnyState({lsReading}))
+                return;
             label.BeginRead(Below(2));
             return label.EndRead(true);
         default:
