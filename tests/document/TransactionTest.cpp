@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Transactions: one step or none, back to the byte, whatever happens in between.
+#include <tests/document/ProbeItem.h>
 #include <tests/support/ItemSuite.h>
 
 #include <vagrel/document/TVGRBackSurf.h>
@@ -65,8 +66,10 @@ protected:
 };
 
 TEST_F(Transactions, AreOneStepWhateverTheyHold) {
+    line.SetFixedID(u"another");
     const TStand before(label);
     Transaction change(label, u"a name", u"somebody");
+    line.SetName(); // stored without a command
     line.SetColor(5);
     label.DeleteItem(box, true);
     label.CreateText(3000, 3000);
@@ -205,6 +208,215 @@ TEST_F(Transactions, MeetTheOlderSteps) {
     UndoAll(label);
     line.SetColor(9);
     EXPECT_TRUE(label.IsRedoEmpty());
+}
+
+TEST_F(Transactions, RedoneDeletionsKeepWhatIsStillToBeRedone) {
+    label.DeleteItem(box, true);
+    {
+        Transaction change(label);
+        line.SetColor(5);
+        change.Commit();
+    }
+    const TStand after(label);
+    EXPECT_EQ(UndoAll(label), 2);
+    EXPECT_EQ(RedoAll(label), 2);
+    EXPECT_TRUE(after.Equals(label));
+}
+
+TEST_F(Transactions, EndAllWhenObserversThrow) {
+    const TStand before(label);
+    RecordingObserver editor(duEditor);
+    label.Attach(&editor);
+    {
+        Transaction outer(label);
+        label.CreatePoint(1, 1);
+        const Transaction inner(label);
+        label.CreatePoint(2, 2);
+        editor.onUpdate = [](TKSChange) { throw std::runtime_error("no"); };
+        EXPECT_THROW(outer.Rollback(), std::runtime_error);
+    }
+    EXPECT_FALSE(label.InTransaction());
+    EXPECT_TRUE(before.Equals(label));
+    // A step is made whatever its notices do.
+    editor.onUpdate = {};
+    Transaction change(label);
+    label.CreatePoint(1, 1);
+    label.SetUnits(unCM);
+    change.Commit();
+    editor.onUpdate = [](TKSChange) { throw std::runtime_error("no"); };
+    EXPECT_THROW(label.Undo(), std::runtime_error);
+    EXPECT_TRUE(before.Equals(label));
+    EXPECT_TRUE(label.IsUndoEmpty());
+}
+
+TEST_F(Transactions, BearItemsThatThrowWhenTheyResolve) {
+    struct TRefusing : ProbeItem {
+        using ProbeItem::ProbeItem;
+        void ResolveReferences() override {
+            if (refuses)
+                throw std::runtime_error("no");
+        }
+        bool refuses = false;
+    };
+    auto& item = *new TRefusing(label, itLine, {{0, 0}, {9, 9}});
+    const TStand before(label);
+    Transaction change(label);
+    label.CreatePoint(1, 1);
+    line.SetColor(5);
+    change.Commit();
+    const TStand after(label);
+    item.refuses = true;
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_THROW(label.Undo(), std::runtime_error);
+        EXPECT_TRUE(after.Equals(label));
+    }
+    item.refuses = false;
+    label.Undo();
+    EXPECT_TRUE(before.Equals(label));
+    label.Redo();
+    EXPECT_TRUE(after.Equals(label));
+}
+
+TEST_F(Transactions, CalculateNothingOnTheWayBack) {
+    TVGRBaseItem& text = label.CreateText(3000, 3000);
+    Query<IKSLText>(&text)->SetText(u"not measured yet");
+    label.Clear({cleUndoRedo}, false);
+    const TStand before(label);
+    {
+        Transaction change(label);
+        Query<IKSLText>(&text)->SetText(u"longer than it was");
+        change.Commit();
+    }
+    const TStand after(label);
+    label.Undo();
+    EXPECT_TRUE(before.Equals(label));
+    label.Redo();
+    EXPECT_TRUE(after.Equals(label));
+}
+
+TEST_F(Transactions, LayersOutliveWhatRefersToThem) {
+    // Deleted while nothing is recorded, or behind a step that knows it: undo falls back to the base layer.
+    for (const bool recorded : {true, false}) {
+        TVGRLayer& doomed = label.AddLayer();
+        line.StoreLayer(doomed);
+        Transaction change(label);
+        line.SetColor(TAlphaColor(recorded));
+        change.Commit();
+        if (!recorded)
+            label.SetOptions({});
+        if (recorded) {
+            label.DeleteLayer(2);
+        } else {
+            Transaction deletes(label);
+            label.DeleteLayer(2);
+            deletes.Commit();
+        }
+        label.SetOptions({loUndoRedo});
+        UndoAll(label);
+        EXPECT_EQ(&line.GetLayer(), &label.GetLayer(1));
+        RedoAll(label);
+        EXPECT_EQ(&line.GetLayer(), &label.GetLayer(1));
+        label.Clear({cleUndoRedo}, false);
+    }
+    // A preview copy of an item on a layer that is taken back.
+    {
+        const Transaction lost(label);
+        label.AddLayer();
+        label.SetActiveLayer(2);
+        new ProbeItem(label, itLine, {{0, 0}, {9, 9}}, true);
+        label.Preview().back()->StoreLayer(label.GetLayer(2));
+    }
+    EXPECT_EQ(label.Preview().back()->GetLayer().GetName(), label.GetLayer(1).GetName());
+}
+
+TEST_F(Transactions, ReturningItemsAreNotSelected) {
+    for (const bool commits : {false, true}) {
+        label.SetSelection(&box, isSelected);
+        Transaction change(label);
+        label.DeleteItem(box, true);
+        if (commits) {
+            change.Commit();
+            label.Undo();
+        } else {
+            change.Rollback();
+        }
+        EXPECT_EQ(label.SelectionCount(), 0);
+        EXPECT_EQ(box.GetState(), isNormal);
+    }
+}
+
+TEST_F(Transactions, TurningBearsWhoEndsItInTheMiddle) {
+    RecordingObserver editor(duEditor);
+    label.Attach(&editor);
+    std::unique_ptr<Transaction> left;
+    const std::function<void()> acts[] = {[&] { label.Clear({cleAll}, true); },
+                                          [&] { label.Clear({cleUndoRedo}, true); },
+                                          [&] { left = std::make_unique<Transaction>(label); },
+                                          [&] {
+                                              label.BeginRead(false);
+                                              label.EndRead(true);
+                                          },
+                                          [] { throw std::runtime_error("no"); }};
+    for (const auto& act : acts) {
+        label.CreateLine(1000, 1000, 9000, 5000);
+        auto once = [&, done = false](TKSChange) mutable {
+            if (!std::exchange(done, true))
+                act();
+        };
+        editor.onUpdate = once;
+        try {
+            label.RotateLeft();
+        } catch (const std::runtime_error&) {
+        }
+        editor.onUpdate = {};
+        left.reset();
+        EXPECT_FALSE(label.InTransaction());
+        UndoAll(label);
+    }
+}
+
+TEST_F(Transactions, WatchesMayChangeTheDocumentThatTellsThem) {
+    const TStand before(label);
+    Transaction change(label);
+    label.DeleteItem(box, true);
+    TVGRBaseItem& point = label.CreatePoint(1, 1);
+    change.Commit();
+    const TStand after(label);
+    {
+        int calls = 0;
+        const TItemWatch watch(point, [&](TVGRBaseItem*) {
+            ++calls;
+            EXPECT_EQ(label.ItemsCount(), 2);
+            label.SetSelection(label.GetItem(1), isSelected);
+            label.DeleteItem(label.CreatePoint(5, 5), true);
+        });
+        label.Undo();
+        EXPECT_EQ(calls, 1);
+    }
+    EXPECT_TRUE(before.Equals(label));
+}
+
+TEST_F(Transactions, OweWhatWasMadeByHandBefore) {
+    MakeProbe(label, itLine);
+    {
+        const Transaction idle(label);
+        const UpdateScope bracket(label);
+    }
+    EXPECT_EQ(told, 0);
+    label.BeginUpdate(true);
+    label.EndUpdate();
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(Transactions, EndAReadingThatBeganInside) {
+    const TStand before(label);
+    {
+        const Transaction lost(label);
+        label.BeginRead(true);
+    }
+    EXPECT_FALSE(label.HasAnyState({lsReading, lsUpdating}));
+    EXPECT_TRUE(label.GetOptions().Has(loUndoRedo));
+    EXPECT_TRUE(before.Equals(label));
 }
 
 TEST_F(Transactions, EverySetterOfEveryFamilyIsUndone) {
@@ -348,14 +560,103 @@ protected:
 
     bool Throws() { return throws > 0 && --throws == 0; }
 
+    // What handlers do: they throw, change the document, and open and end transactions of their own.
+    void Mischief() {
+        if (Throws())
+            throw std::runtime_error("handler");
+        if (!mischief || busy || Below(5) != 0)
+            return;
+        busy = true;
+        const TFinally idle{[this] { busy = false; }};
+        switch (Below(8)) {
+        case 0:
+            label.CreatePoint(Below(900), Below(900));
+            return;
+        case 1:
+        case 2:
+            return label.ItemsCount() > 0 ? label.DeleteItem(*Any(), Below(2)) : void();
+        case 3:
+            return label.Clear({cleItems}, Below(2));
+        case 4:
+            return label.Undo();
+        case 5: {
+            Transaction own(label);
+            Act();
+            return void(Below(2) && own.Commit());
+        }
+        case 6:
+            return label.PaintEditor();
+        default:
+            return Act();
+        }
+    }
+
+    // The same, and what ends transactions of others or outlives them.
+    void Havoc() {
+        if (busy || Below(5) != 0)
+            return Mischief();
+        busy = true;
+        const TFinally idle{[this] { busy = false; }};
+        switch (Below(11)) {
+        case 0:
+            return label.New();
+        case 1:
+            return label.Clear(Below(2) ? TKSLClearSet{cleUndoRedo} : TKSLClearSet{cleItems, cleLayers}, true);
+        case 2:
+            return label.Redo();
+        case 3:
+        case 4:
+            if (!label.HasAnyState({lsReading}) && !label.IsReplaying())
+                open.push_back(std::make_unique<Transaction>(Below(3) ? label : other));
+            return;
+        case 5:
+        case 6:
+            if (!open.empty() && !label.HasAnyState({lsReading})) {
+                const auto ended = std::move(open[std::size_t(Below(int(open.size())))]);
+                std::erase(open, nullptr);
+                Below(2) ? void(ended->Commit()) : ended->Rollback();
+            }
+            return;
+        case 7:
+            return Below(2) ? label.BeginUpdate(true) : label.EndUpdate();
+        case 8:
+            label.SetOptions(Below(2) ? TVagrelOptions{loUndoRedo} : TVagrelOptions{});
+            return;
+        case 9:
+            if (label.HasAnyState({lsReading}))
+                return;
+            label.BeginRead(Below(2));
+            return label.EndRead(true);
+        default:
+            return other.ItemsCount() > 9 ? other.New() : void(other.CreatePoint(1, 1));
+        }
+    }
+
+    void Handle(std::function<void()> handler) {
+        if (!handler)
+            handler = [] {};
+        editor.onUpdate = [handler](TKSChange) { handler(); };
+        label.OnSelectItem = label.OnUnSelectItem = [handler](auto&&...) { handler(); };
+        label.OnLabelRotate = [handler](auto&&...) { handler(); };
+    }
+
+    static unsigned Rounds(unsigned usual) {
+        const char* seeds = std::getenv("VAGREL_SEEDS");
+        return seeds ? unsigned(std::atoi(seeds)) : usual;
+    }
+
     std::mt19937 random;
     int depth = 0, throws = 0;
+    bool mischief = false, busy = false;
     TShaky label{emLabelling};
+    TestHost other;
+    RecordingObserver editor{duEditor};
+    std::vector<std::unique_ptr<Transaction>> open;
 };
 
 TEST_P(RandomTransactions, GoBackAndForthToTheByte) {
-    const char* seeds = std::getenv("VAGREL_SEEDS");
-    for (unsigned round = 0; round < (seeds ? unsigned(std::atoi(seeds)) : 12u); ++round) {
+    label.Attach(&editor);
+    for (unsigned round = 0; round < Rounds(12); ++round) {
         const unsigned seed = GetParam() * 1000003 + round;
         random.seed(seed);
         label.New();
@@ -363,21 +664,16 @@ TEST_P(RandomTransactions, GoBackAndForthToTheByte) {
         for (int i = 0; i < 6; ++i)
             Act();
         label.Clear({cleUndoRedo}, false);
-        RecordingObserver editor(duEditor);
-        label.Attach(&editor);
-        auto handler = [this](auto&&...) {
-            if (Throws())
-                throw std::runtime_error("handler");
-        };
-        editor.onUpdate = handler;
-        label.OnSelectItem = label.OnUnSelectItem = handler;
+        Handle([this] { Mischief(); });
         label.throwing = [this] { return Throws(); };
 
         std::vector<TStand> stands;
         stands.emplace_back(label);
         for (int step = 0; step < 5; ++step) {
             Transaction change(label);
+            mischief = true;
             Program();
+            mischief = false;
             throws = 0;
             if (Below(4) == 0) {
                 change.Rollback();
@@ -395,7 +691,41 @@ TEST_P(RandomTransactions, GoBackAndForthToTheByte) {
             for (std::size_t at = 0; at < stands.size(); ++at, label.Redo())
                 ASSERT_TRUE(stands[at].Equals(label)) << "seed " << seed << " forth at " << at;
         }
-        label.OnSelectItem = label.OnUnSelectItem = {};
+        Handle({});
+    }
+}
+
+// Nothing is promised of such sessions but that the document stays one that can be written and undone.
+TEST_P(RandomTransactions, LeaveAWholeDocumentWhateverHandlersDo) {
+    for (unsigned round = 0; round < Rounds(12); ++round) {
+        random.seed(GetParam() * 2000003 + round);
+        SCOPED_TRACE(round);
+        label.Attach(&editor);
+        Handle([this] { Havoc(); });
+        label.OnUndoRedo = [this](auto&&...) { Havoc(); };
+        mischief = true;
+        for (int step = 0; step < 12; ++step) {
+            try {
+                Program();
+                Below(2) ? label.Undo() : label.Redo();
+            } catch (const std::exception&) {
+            }
+            for (int i = 1; i <= label.SelectionCount(); ++i)
+                ASSERT_EQ(label.SearchItem(label.GetSelection(i)->GetInID(), false) != nullptr, true);
+            for (int i = 1; i <= label.ItemsCount(); ++i)
+                ASSERT_GE(label.LayerIdx(label.GetItem(i)->GetLayer()), 0);
+        }
+        mischief = false;
+        Handle({});
+        label.OnUndoRedo = {};
+        open.clear();
+        EXPECT_FALSE(label.InTransaction());
+        label.SetOptions({loUndoRedo});
+        UndoAll(label);
+        const auto json = JsonOf(label);
+        RedoAll(label);
+        UndoAll(label);
+        label.New();
     }
 }
 

@@ -154,10 +154,11 @@ void TVGRBaseLabel::SameSize(TKSLAlignType axis) {
 void TVGRBaseLabel::Turn(bool left) {
     if (fEditorMode != emLabelling)
         return;
-    OpenLog(); // one step, although nothing of it is recorded
+    const TLog log = OpenLog(); // one step, although nothing of it is recorded
     fAngle = TKSLAngle((fAngle + (left ? 1 : 3)) & 3);
     {
-        const TFinally step{[this] { CommitLog(false); }};
+        const TFinally step{[&] { CommitLog(log, false); }};
+        const TFinally inner{[&] { RollBackLogs(log, false); }}; // that handlers left open
         const UpdateScope bracket(*this);
         fMeasure->Turn();
         ForEachLiving(fItems, [left](TVGRBaseItem& item) { left ? item.RotateLeft() : item.RotateRight(); });

@@ -17,13 +17,12 @@ TItemWatch::TItemWatch(TVGRBaseItem& item, TTold told) : TItemHandle(item), fTol
 
 TItemWatch::~TItemWatch() { std::erase(fReceiver->watches, this); }
 
-void TVGRReceiver::SetItem(TVGRBaseItem* value) {
-    item = value;
+void TVGRReceiver::TellWatches() {
     // One that is told may end others.
     const std::vector<TItemWatch*> told = watches;
     for (TItemWatch* watch : told)
         if (std::ranges::find(watches, watch) != watches.end() && watch->fTold)
-            watch->fTold(value);
+            watch->fTold(item);
 }
 
 } // namespace vagrel

@@ -53,6 +53,7 @@ public:
             fBefore = Keys(list, fCount.value_or(list.size()));
     }
     void Park(std::unique_ptr<T> element) { fParked.push_back(std::move(element)); }
+    std::size_t CountParked() const { return fParked.size(); }
 
     /// Ends the keeping: finds what came, went and was moved, and drops images that equal what stands. True when
     /// anything is left.
@@ -83,12 +84,15 @@ public:
         std::vector<TKey> next = Next(list);
         TList changed;
         changed.reserve(next.size());
-        std::unordered_map<TKey, std::unique_ptr<T>*> owners;
+        std::unordered_map<TKey, std::unique_ptr<T>*> owners, away;
         if (ChangesList()) {
             fParked.reserve(fParked.size() + list.size());
-            for (TList* owner : {&list, &fParked})
-                for (std::unique_ptr<T>& element : *owner)
-                    owners.emplace(TIdentity<T>::Of(*element), &element);
+            for (std::unique_ptr<T>& element : list)
+                owners.emplace(TIdentity<T>::Of(*element), &element);
+            // One that is back by another way stays parked.
+            for (std::unique_ptr<T>& element : fParked)
+                if (!owners.contains(TIdentity<T>::Of(*element)))
+                    away.emplace(TIdentity<T>::Of(*element), &element);
         }
         for (auto& [key, image] : fImages)
             if (T* element = Element(key, parked))
@@ -98,8 +102,9 @@ public:
         for (const TKey& key : next)
             if (const auto owner = owners.find(key); owner != owners.end()) {
                 changed.push_back(std::move(*owner->second));
-                if (parked.contains(key))
-                    back(*changed.back());
+            } else if (const auto absent = away.find(key); absent != away.end()) {
+                changed.push_back(std::move(*absent->second));
+                back(*changed.back());
             }
         std::erase(fParked, nullptr);
         for (std::unique_ptr<T>& element : list)
@@ -189,7 +194,9 @@ private:
                 next.push_back(strange.key);
             return next;
         }
-        const std::vector<TKey> staying = Without(now, fLeaving);
+        std::vector<TSpot> here = fLeaving;
+        std::ranges::copy(fEntering, std::back_inserter(here)); // those that are back by another way
+        const std::vector<TKey> staying = Without(now, here);
         auto entering = fEntering.begin();
         for (auto stays = staying.begin(); stays != staying.end() || entering != fEntering.end();)
             if (entering != fEntering.end() && (stays == staying.end() || entering->index <= next.size()))
@@ -206,8 +213,10 @@ private:
         return parked;
     }
     static T* Element(const TKey& key, const TPark& parked) {
+        if (T* living = TIdentity<T>::Element(key))
+            return living;
         const auto found = parked.find(key);
-        return found == parked.end() ? TIdentity<T>::Element(key) : found->second;
+        return found == parked.end() ? nullptr : found->second;
     }
 
     std::unordered_map<TKey, TImage> fImages; ///< empty for elements that were born here

@@ -40,7 +40,12 @@ class TMembers {
 public:
     enum TMode : std::uint8_t { Take, Exchange, Compare };
 
-    TMembers(TImage& image, TMode mode) : fImage(image), fMode(mode) {}
+    TMembers(TImage& image, TMode mode) : fImage(image), fMode(mode) {
+        if (mode != Take)
+            return;
+        image.fBytes.reserve(128); // most items need less
+        image.fOthers.reserve(4);
+    }
 
     template <class... T>
     void operator()(T&... members) {

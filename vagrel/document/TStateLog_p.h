@@ -3,15 +3,23 @@
 #pragma once
 
 #include <vagrel/document/TListLog_p.h>
-#include <vagrel/document/TVGRLayer.h>
-#include <vagrel/items/lines/TVGRDimStyle.h>
-#include <vagrel/merge/TVGRCounter.h>
 
 #include <string>
+
+namespace vagrel {
+
+class TVGRCounter;
+class TVGRDimStyle;
+class TVGRLayer;
+
+} // namespace vagrel
 
 namespace vagrel::detail {
 
 struct TStateLog {
+    TStateLog();
+    ~TStateLog();
+
     std::u16string name, author;
     TListLog<TVGRBaseItem> items;
     TListLog<TVGRLayer> layers;

@@ -10,7 +10,7 @@
 namespace vagrel::detail {
 
 std::int32_t TUndoStacks::NextGroup() {
-    if (replay != TReplay::None)
+    if (Regroups())
         return fUnReRef;
     return fIncUnReID ? fUnReID++ : fUnReID;
 }
@@ -23,7 +23,7 @@ void TUndoStacks::CloseGroup() {
 bool TUndoStacks::Coalesces(TVGRCmdKind kind, std::int32_t index, const std::shared_ptr<TVGRReceiver>& receiver) {
     const TStack& stack = Recording();
     return CoalescingCmds.Has(kind) && !stack.empty() && stack.back().Is(kind, index, receiver) &&
-           (replay == TReplay::None || stack.back().fUndRedID == fUnReRef);
+           (!Regroups() || stack.back().fUndRedID == fUnReRef);
 }
 
 void TUndoStacks::DropLast(TVGRCmdKind kind, std::int32_t index, const std::shared_ptr<TVGRReceiver>& receiver) {
@@ -60,6 +60,7 @@ TUndoStacks::TStack TUndoStacks::TakeStep(TStack& stack) {
 }
 
 void TUndoStacks::PutBack(TStack& stack, TStack& step) {
+    fRedoIsTold = false;
     std::move(step.rbegin(), step.rend(), std::back_inserter(stack));
 }
 
@@ -74,8 +75,15 @@ void TUndoStacks::BringBack(TKept kept) {
     fRetired = std::move(kept.retired);
 }
 
-bool TUndoStacks::RedoHoldsTransaction() const {
-    return std::ranges::any_of(redo, [](const TVGRCmd& each) { return each.fKind == ckState && each.fIndex != 0; });
+bool TUndoStacks::RedoHoldsTransaction() {
+    auto isTold = [](const TVGRCmd& each) { return each.fKind != ckState || each.fIndex == 0; };
+    fRedoIsTold = fRedoIsTold || std::ranges::all_of(redo, isTold);
+    return !fRedoIsTold;
+}
+
+void TUndoStacks::PushState(TStack& stack, TVGRCmd command) {
+    fRedoIsTold = false;
+    stack.push_back(std::move(command));
 }
 
 void TUndoStacks::Clear() {

@@ -12,9 +12,10 @@ namespace vagrel::detail {
 /// What a command in replay does with what it causes to be recorded.
 enum class TReplay : std::uint8_t {
     None,
-    Undo, ///< recorded for redo, under the number of the step
-    Redo, ///< recorded for undo, likewise
-    Back  ///< not recorded: a step that failed is taken back
+    Undo,     ///< recorded for redo, under the number of the step
+    Redo,     ///< recorded for undo, likewise
+    Deletion, ///< redone: recorded for undo as a step of its own
+    Back      ///< not recorded: a step that failed is taken back
 };
 
 class TUndoStacks {
@@ -52,10 +53,13 @@ public:
     /// belongs to this step.
     TStack TakeStep(TStack& stack);
     /// Puts such a step back.
-    static void PutBack(TStack& stack, TStack& step);
+    void PutBack(TStack& stack, TStack& step);
 
     std::int32_t StepGroup() const { return fUnReRef; }
-    bool RedoHoldsTransaction() const;
+    /// What was found is kept until a transaction's command comes to that stack: all recordings ask.
+    bool RedoHoldsTransaction();
+    /// The opposite of a transaction's command.
+    void PushState(TStack& stack, TVGRCmd command);
 
     /// What stands on the stacks, to be put aside and brought back.
     struct TKept {
@@ -75,7 +79,10 @@ public:
     std::uint32_t TimesCleared() const { return fTimesCleared; }
 
 private:
+    bool Regroups() const { return replay != TReplay::None && replay != TReplay::Deletion; }
+
     bool fIncUnReID = true;
+    bool fRedoIsTold = true; ///< certainly without a transaction's command
     std::int32_t fUnReID = 0, fUnReRef = 0;
     std::uint32_t fTimesCleared = 0;
     std::vector<std::shared_ptr<void>> fRetired;

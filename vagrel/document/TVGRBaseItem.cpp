@@ -31,7 +31,7 @@ TVGRBaseItem::TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& l
     : fOwner(owner), fItemType(type), fLayer(&layer), fPoints(std::size_t(NumPointsItem(type))), fFromPreview(preview) {
     if (!owner.HasAnyState({lsReading, lsPaste}))
         fInID = owner.NextID();
-    SetName();
+    fID = DefaultName();
 }
 
 TVGRBaseItem::~TVGRBaseItem() { fOwner.Forget(*this); }
@@ -47,7 +47,7 @@ void TVGRBaseItem::Members(TMembers& members) {
             aIsData);
 }
 
-void TVGRBaseItem::SetName() { fID = std::u16string(NameItem(fItemType)) + IntToStr(fInID, 3); }
+std::u16string TVGRBaseItem::DefaultName() const { return std::u16string(NameItem(fItemType)) + IntToStr(fInID, 3); }
 
 void TVGRBaseItem::SetID(std::u16string_view value) {
     if (value == fID)

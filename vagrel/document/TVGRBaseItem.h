@@ -73,7 +73,7 @@ public:
     /// Stores an identifier that the system gives, without the test.
     void SetFixedID(std::u16string_view value) { Put(fID, value); }
     /// The default identifier: the type's name and the number with at least three digits.
-    void SetName();
+    void SetName() { Put(fID, DefaultName()); }
     TKSLItemType GetItemType() const { return fItemType; }
     const TItemTypeRow& TypeRow() const { return ItemTypeRow(fItemType); }
     bool HasTrait(TItemTrait trait) const { return vagrel::HasTrait(fItemType, trait); }
@@ -292,6 +292,7 @@ protected:
     bool IsExact(double coordinate) const;
     /// A coordinate as JSON has it.
     double CoordinateOf(std::int64_t base) const;
+    std::u16string DefaultName() const;
     bool InRange(int index) const { return index >= 1 && index <= int(fPoints.size()); }
     TKSLPto& At(int index) { return fPoints[std::size_t(index - 1)]; }
     const TKSLPto& At(int index) const { return fPoints[std::size_t(index - 1)]; }

@@ -152,8 +152,10 @@ void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLRea
     Fields(fields);
     UpdateBounds();
     if (type == rdPaste) {
+        const TItemHandle alive(*this);
         BaseMove(fOwner.BaseMoveInc(), fOwner.BaseMoveInc(), 0, 0, moAll, true);
-        fOwner.AddToSelection(*this, false);
+        if (alive)
+            fOwner.AddToSelection(*this, false);
     }
 }
 

@@ -49,6 +49,7 @@ enum TItemTrait : std::uint8_t;
 enum TVGRCmdKind : std::int32_t;
 struct TKSLExtent;
 struct TVGRCmd;
+struct TVGRReceiver;
 namespace detail {
 class TUndoStacks;
 struct TStateLog;
@@ -660,15 +661,22 @@ private:
     using TLog = std::shared_ptr<detail::TStateLog>;
 
     TLog OpenLog();
-    /// Ends the innermost log. True when a step was left.
-    bool CommitLog(bool isTransaction);
+    bool HasLog(const TLog& log) const;
+    /// Ends the innermost log. True when a step was left; nothing when it has ended.
+    bool CommitLog(const TLog& log, bool isTransaction);
+    /// Takes back the innermost one.
     void RollBackLog();
+    /// Takes back those inside of a log, and with `itself` that one. Throws what observers throw, when all is done.
+    void RollBackLogs(const TLog& log, bool itself);
     /// Ends all of them without a step.
     void DropLogs();
-    /// Exchanges what a log keeps with what stands, which puts the log on the other side of the change.
-    void ExchangeState(detail::TStateLog& log);
-    void TellExchanged(const detail::TStateLog& log);
-    void RestoreLog(detail::TStateLog& log);
+    using TReceivers = std::vector<std::shared_ptr<TVGRReceiver>>;
+    /// Exchanges what a log keeps with what stands, which puts the log on the other side of the change. No code of the
+    /// host runs in it. Answers the items that came or went.
+    TReceivers ExchangeState(detail::TStateLog& log);
+    /// Resolves references and tells of such an exchange.
+    void TellExchanged(const detail::TStateLog& log, const TReceivers& receivers);
+    TReceivers RestoreLog(detail::TStateLog& log);
     void ReadBracket(const std::function<void()>& read);
     void ResetParts();
     /// The document's own fields and those of its single parts.

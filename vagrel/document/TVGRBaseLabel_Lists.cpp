@@ -110,6 +110,7 @@ void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
 }
 
 void TVGRBaseLabel::Unlist(TVGRBaseItem& item) {
+    item.SetState(isNormal);
     std::erase(fSelection, &item);
     std::erase(fLinks, &item);
     if (const auto at = std::ranges::find(fCalcs, &item); at != fCalcs.end()) {

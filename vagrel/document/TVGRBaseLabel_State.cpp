@@ -7,15 +7,21 @@
 #include <vagrel/document/TUndoStacks_p.h>
 #include <vagrel/document/TVGRBackSurf.h>
 #include <vagrel/document/TVGRBasePrintInfo.h>
+#include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/document/TVGRSettings.h>
 #include <vagrel/document/Transaction.h>
 #include <vagrel/foundation/Exceptions.h>
+#include <vagrel/items/lines/TVGRDimStyle.h>
+#include <vagrel/merge/TVGRCounter.h>
 #include <vagrel/merge/TVGRData.h>
 
 namespace vagrel {
 
 using detail::TStateLog;
+
+TStateLog::TStateLog() = default;
+TStateLog::~TStateLog() = default;
 
 // What says that it is about to change
 
@@ -62,8 +68,11 @@ TVGRBaseLabel::TLog TVGRBaseLabel::OpenLog() {
     return log;
 }
 
-bool TVGRBaseLabel::CommitLog(bool isTransaction) {
-    const TLog log = std::move(fLogs.back());
+bool TVGRBaseLabel::HasLog(const TLog& log) const { return std::ranges::find(fLogs, log) != fLogs.end(); }
+
+bool TVGRBaseLabel::CommitLog(const TLog& log, bool isTransaction) {
+    if (!HasLog(log))
+        return false;
     fLogs.pop_back();
     if (!fLogs.empty()) {
         TStateLog& outer = *fLogs.back();
@@ -86,8 +95,10 @@ bool TVGRBaseLabel::CommitLog(bool isTransaction) {
     if (!log->data.Empty() && SameAsImage(*fData, log->data))
         log->data = {};
     any |= !log->page.Empty() || !log->data.Empty();
-    if (!any || !fOptions.Has(loUndoRedo))
+    if (!any || !fOptions.Has(loUndoRedo)) {
+        fStacks->Retire(log); // older steps may know the layers that went
         return false;
+    }
     if (isTransaction)
         fStacks->redo.clear();
     fStacks->Push({ckState, isTransaction, UnReID(), nullptr, log});
@@ -95,29 +106,50 @@ bool TVGRBaseLabel::CommitLog(bool isTransaction) {
     return true;
 }
 
-void TVGRBaseLabel::RestoreLog(TStateLog& log) {
+TVGRBaseLabel::TReceivers TVGRBaseLabel::RestoreLog(TStateLog& log) {
     const bool opened = fStacks->InGroup() && !log.inGroup;
+    const bool reading = fStates.Has(lsReading);
     log.items.Settle(fItems);
     log.layers.Settle(fLayers);
     log.styles.Settle(fDimStyles);
     log.counters.Settle(fCounters);
-    ExchangeState(log);
+    TReceivers receivers = ExchangeState(log);
     fMaxID = log.maxID;
     fModified = log.modified;
     fStacks->RestoreGroup(log.group, log.inGroup);
     if (opened)
         fStates -= {lsUpdating, lsNoPaint};
+    if (reading) {
+        fStates -= {lsReading, lsPaste, lsUpdateMeasure};
+        if (fUndoOpt)
+            fOptions += {loUndoRedo};
+    }
+    return receivers;
 }
 
 void TVGRBaseLabel::RollBackLog() {
     const TLog log = fLogs.back();
     fLogs.pop_back();
-    RestoreLog(*log);
+    const TReceivers receivers = RestoreLog(*log);
     const TFinally shown{[this] {
         FillSelPoints();
         Refresh();
     }};
-    TellExchanged(*log);
+    TellExchanged(*log, receivers);
+}
+
+void TVGRBaseLabel::RollBackLogs(const TLog& log, bool itself) {
+    std::exception_ptr fault;
+    while (HasLog(log) && (itself || fLogs.back() != log)) {
+        try {
+            RollBackLog();
+        } catch (...) {
+            if (!fault)
+                fault = std::current_exception();
+        }
+    }
+    if (fault)
+        std::rethrow_exception(fault);
 }
 
 void TVGRBaseLabel::DropLogs() {
@@ -176,7 +208,7 @@ void TVGRBaseLabel::ReadWhole(const std::function<void()>& read) {
         ReadBracket(read);
     } catch (...) {
         fLogs.clear();
-        RestoreLog(*stash);
+        const TReceivers receivers = RestoreLog(*stash);
         fStacks->BringBack(std::move(commands));
         for (const TItemHandle& item : selected)
             if (item) {
@@ -185,7 +217,7 @@ void TVGRBaseLabel::ReadWhole(const std::function<void()>& read) {
             }
         try {
             FillSelPoints();
-            TellExchanged(*stash);
+            TellExchanged(*stash, receivers);
             TellUndoRedo();
             CheckIntersetions();
             Refresh();
@@ -197,18 +229,23 @@ void TVGRBaseLabel::ReadWhole(const std::function<void()>& read) {
     fLogs.clear();
 }
 
-void TVGRBaseLabel::ExchangeState(TStateLog& log) {
+TVGRBaseLabel::TReceivers TVGRBaseLabel::ExchangeState(TStateLog& log) {
     // What is kept of a change is not kept of going back.
-    const std::vector<TLog> open = std::exchange(fLogs, {});
-    const TFinally reopen{[&] { fLogs = open; }};
+    std::vector<TLog> open = std::exchange(fLogs, {});
+    const TFinally reopen{[&] { fLogs = std::move(open); }};
+    TReceivers receivers;
+    if (log.items.ChangesList())
+        receivers.reserve(fItems.size() + log.items.CountParked());
     log.items.Exchange(
         fItems,
-        [this](TVGRBaseItem& item) {
+        [&](TVGRBaseItem& item) {
             Unlist(item);
-            item.fReceiver->SetItem(nullptr);
+            item.fReceiver->item = nullptr;
+            receivers.push_back(item.fReceiver);
         },
-        [this](TVGRBaseItem& item) {
-            item.fReceiver->SetItem(&item);
+        [&](TVGRBaseItem& item) {
+            item.fReceiver->item = &item;
+            receivers.push_back(item.fReceiver);
             RaiseMaxID(std::max(item.GetInID(), item.GetInID() + (item.GetInID() < INT32_MAX)));
         });
     auto nothing = [](auto&) {};
@@ -225,43 +262,61 @@ void TVGRBaseLabel::ExchangeState(TStateLog& log) {
     }
     // Layers may have gone since without a command.
     if (log.layers.ChangesList() || fStacks->HasRetired())
-        for (const auto& item : fItems)
-            if (LayerIdx(item->GetLayer()) < 0)
-                item->fLayer = fLayers.front().get();
+        for (const auto* items : {&fItems, &fPreview})
+            for (const auto& item : *items)
+                if (LayerIdx(item->GetLayer()) < 0)
+                    item->fLayer = fLayers.front().get();
     fActiveLayer = std::clamp(fActiveLayer, 0, LayersCount() - 1);
     fActiveDimStyle = std::clamp(fActiveDimStyle, 0, DimStylesCount() - 1);
     fModified = true;
     CheckBackLayer();
+    return receivers;
+}
+
+void TVGRBaseLabel::TellExchanged(const TStateLog& log, const TReceivers& receivers) {
+    for (const auto& receiver : receivers)
+        receiver->TellWatches();
     if (log.items.ChangesList())
         AssignSymbolAndFlowLinks();
-}
-
-void TVGRBaseLabel::TellExchanged(const TStateLog& log) {
+    std::exception_ptr fault;
+    auto tell = [&](TKSChange change) {
+        try {
+            ChangeValue(change);
+        } catch (...) {
+            if (!fault)
+                fault = std::current_exception();
+        }
+    };
     if (!log.page.Empty()) {
-        ChangeValue(chUnits);
-        ChangeValue(chMeasure);
-        ChangeValue(chBackSurf);
+        tell(chUnits);
+        tell(chMeasure);
+        tell(chBackSurf);
     }
     if (log.items.ChangesList())
-        ChangeValue(chSelect);
+        tell(chSelect);
+    if (!fault)
+        return;
+    if (!fStepping)
+        std::rethrow_exception(fault);
+    // A step goes on to its end and then says so.
+    if (!fStepFault)
+        fStepFault = fault;
 }
 
-std::u16string TVGRBaseLabel::UndoName() const {
-    const auto* log = fStacks->undo.empty() ? nullptr : std::get_if<TLog>(&fStacks->undo.back().fValue);
-    return log ? (*log)->name : std::u16string();
+namespace {
+
+// What the transaction on top of a stack is called; empty without one.
+std::u16string OfTop(const std::vector<TVGRCmd>& stack, std::u16string TStateLog::*text) {
+    const auto* log = stack.empty() ? nullptr : std::get_if<std::shared_ptr<TStateLog>>(&stack.back().fValue);
+    return log ? (**log).*text : std::u16string();
 }
-std::u16string TVGRBaseLabel::RedoName() const {
-    const auto* log = fStacks->redo.empty() ? nullptr : std::get_if<TLog>(&fStacks->redo.back().fValue);
-    return log ? (*log)->name : std::u16string();
-}
-std::u16string TVGRBaseLabel::UndoAuthor() const {
-    const auto* log = fStacks->undo.empty() ? nullptr : std::get_if<TLog>(&fStacks->undo.back().fValue);
-    return log ? (*log)->author : std::u16string();
-}
-std::u16string TVGRBaseLabel::RedoAuthor() const {
-    const auto* log = fStacks->redo.empty() ? nullptr : std::get_if<TLog>(&fStacks->redo.back().fValue);
-    return log ? (*log)->author : std::u16string();
-}
+
+} // namespace
+
+std::u16string TVGRBaseLabel::UndoName() const { return OfTop(fStacks->undo, &TStateLog::name); }
+std::u16string TVGRBaseLabel::RedoName() const { return OfTop(fStacks->redo, &TStateLog::name); }
+std::u16string TVGRBaseLabel::UndoAuthor() const { return OfTop(fStacks->undo, &TStateLog::author); }
+std::u16string TVGRBaseLabel::RedoAuthor() const { return OfTop(fStacks->redo, &TStateLog::author); }
 
 // The public face
 
@@ -284,21 +339,21 @@ Transaction::~Transaction() {
 
 bool Transaction::IsOpen() const {
     const auto log = fLog.lock();
-    return log && std::ranges::find(fDocument.fLogs, log) != fDocument.fLogs.end();
+    return log && fDocument.HasLog(log);
 }
 
 bool Transaction::Commit() {
     if (!IsOpen())
         return false;
-    if (fDocument.fLogs.back() != fLog.lock())
+    const auto log = fLog.lock();
+    if (fDocument.fLogs.back() != log)
         throw EInvalidOperation(u"A transaction inside this one is open");
-    fLog.reset();
-    return fDocument.CommitLog(true);
+    return fDocument.CommitLog(log, true);
 }
 
 void Transaction::Rollback() {
-    while (IsOpen())
-        fDocument.RollBackLog();
+    if (IsOpen())
+        fDocument.RollBackLogs(fLog.lock(), true);
 }
 
 } // namespace vagrel

@@ -23,9 +23,9 @@ std::int32_t TVGRBaseLabel::UnReID() { return fStacks->NextGroup(); }
 // Recording
 
 void TVGRBaseLabel::TellUndoRedo() {
-    // While an item is half built it is owed.
-    fTellOwed = fCreating > 0;
-    if (!OnUndoRedo || fDestroying || fTellOwed || InTransaction())
+    // While an item is half built or a transaction is open it is owed.
+    fTellOwed = fCreating > 0 || InTransaction();
+    if (!OnUndoRedo || fDestroying || fTellOwed)
         return;
     const TKSLUndoRedoEvent told = OnUndoRedo; // which the host may replace in it
     try {
@@ -68,6 +68,10 @@ bool TVGRBaseLabel::Record(TVGRBaseItem& item, TVGRCmdKind kind, std::int32_t in
     } catch (...) {
         fStacks->DropLast(kind, index, receiver); // nothing will change
         throw;
+    }
+    if (!fLogs.empty()) { // the event has opened a transaction, to which the change belongs
+        fStacks->DropLast(kind, index, receiver);
+        Touch(item);
     }
     return receiver->item == &item;
 }
@@ -136,8 +140,6 @@ void TVGRBaseLabel::Step(TReplay direction) {
             Refresh();
         }};
         ReplayStep(direction, from);
-        const TFinally calculated{[this] { RemoveState(lsCalc); }};
-        CalcPending();
     }
     if (GetFreshCrossings())
         CheckIntersetions();
@@ -152,6 +154,7 @@ void TVGRBaseLabel::ReplayStep(TReplay direction, std::vector<TVGRCmd>& from) {
     std::vector<TVGRCmd> step = fStacks->TakeStep(from);
     // An observer may clear the document in the middle; then there is nothing left to do.
     auto stands = [&] { return fStacks->TimesCleared() == cleared; };
+    const bool calculates = !std::ranges::all_of(step, [](const TVGRCmd& each) { return each.fKind == ckState; });
     try {
         bool revived = false;
         for (auto command = step.begin(); command != step.end() && stands(); ++command)
@@ -171,6 +174,10 @@ void TVGRBaseLabel::ReplayStep(TReplay direction, std::vector<TVGRCmd>& from) {
         }
         throw;
     }
+    if (!calculates)
+        return; // an image holds what was calculated
+    const TFinally calculated{[this] { RemoveState(lsCalc); }};
+    CalcPending();
 }
 
 void TVGRBaseLabel::TakeBack(std::vector<TVGRCmd>& opposites, std::size_t before) {
@@ -199,19 +206,18 @@ void TVGRBaseLabel::Discard(const TVGRCmd& creation) {
 
 void TVGRBaseLabel::Replay(const TVGRCmd& command, TReplay direction) {
     if (const TLog* log = std::get_if<TLog>(&command.fValue)) {
-        ExchangeState(**log);
+        const TReceivers receivers = ExchangeState(**log);
         if (direction != TReplay::Back) {
             auto& opposites = direction == TReplay::Undo ? fStacks->redo : fStacks->undo;
-            opposites.push_back({ckState, command.fIndex, fStacks->StepGroup(), nullptr, *log});
+            fStacks->PushState(opposites, {ckState, command.fIndex, fStacks->StepGroup(), nullptr, *log});
         }
-        TellExchanged(**log);
+        TellExchanged(**log, receivers);
         return;
     }
     TVGRBaseItem* item = command.fReceiver->item;
     if (!item)
         return; // it went without a command
-    // A redone deletion is recorded as a new one, a step of its own.
-    fStacks->replay = command.fKind == ckCreate && direction == TReplay::Redo ? TReplay::None : direction;
+    fStacks->replay = command.fKind == ckCreate && direction == TReplay::Redo ? TReplay::Deletion : direction;
     const TFinally end{[this] { fStacks->replay = TReplay::None; }};
     if (command.fKind == ckCreate) {
         DeleteItem(*item, true);
@@ -223,6 +229,8 @@ void TVGRBaseLabel::Replay(const TVGRCmd& command, TReplay direction) {
 }
 
 void TVGRBaseLabel::Revive(const TVGRCmd& deletion, TReplay direction) {
+    if (deletion.fReceiver->item)
+        return; // it is back by another way
     fStacks->replay = direction;
     const TFinally end{[this] { fStacks->replay = TReplay::None; }};
     {

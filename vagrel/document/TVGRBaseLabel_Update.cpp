@@ -76,16 +76,17 @@ void TVGRBaseLabel::ChangeValue(TKSChange change) {
 
 void TVGRBaseLabel::ChangeState(TVagrelState state, TVGRBaseItem& item) {
     AddState(lsModified);
+    const bool tells = fUpdate && !fStates.Has(lsReading); // one that is half read is shown to nobody
     switch (state) {
     case lsUpdate:
-        fUpdate ? ChangeValue(chPaint) : AddState(lsUpdate);
+        tells ? ChangeValue(chPaint) : AddState(lsUpdate);
         break;
     case lsUpdateMeasure:
-        fUpdate ? ChangeValue(chMeasure) : AddState(lsUpdateMeasure);
+        tells ? ChangeValue(chMeasure) : AddState(lsUpdateMeasure);
         break;
     case lsCalc:
         AddState(lsUpdate);
-        if (fUpdate) {
+        if (tells) {
             item.CalcValues(2);
             ChangeValue(chPaint);
         } else {
@@ -330,6 +331,8 @@ void TVGRBaseLabel::ClearSelectionLists() {
 }
 
 void TVGRBaseLabel::AddToSelection(TVGRBaseItem& item, bool notify) {
+    if (!TItemHandle(item))
+        return; // it was deleted in a transaction
     item.SetState(isSelected);
     fSelection.push_back(&item);
     if (OnSelectItem)

@@ -16,7 +16,8 @@ struct TVGRReceiver {
     std::vector<TItemWatch*> watches;
 
     /// Stores the item and tells the watches.
-    void SetItem(TVGRBaseItem* value);
+    void SetItem(TVGRBaseItem* value) { item = value, TellWatches(); }
+    void TellWatches();
 };
 
 } // namespace vagrel
