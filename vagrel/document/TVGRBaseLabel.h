@@ -50,6 +50,8 @@ enum TVGRCmdKind : std::int32_t;
 struct TKSLExtent;
 struct TVGRCmd;
 namespace detail {
+class TCellIndex;
+class TItemIndex;
 class TUndoStacks;
 struct TStateLog;
 enum class TReplay : std::uint8_t;
@@ -131,6 +133,8 @@ public:
     int ItemsCount() const { return int(fItems.size()); }
     TVGRBaseItem* GetItem(int index) const;
     const TOwned<TVGRBaseItem>& Preview() const { return fPreview; }
+    /// The preview copies of a sheet cell in their order, without a walk over all of them.
+    std::vector<TVGRBaseItem*> PreviewOf(int row, int column) const;
     int LayersCount() const { return int(fLayers.size()); }
     TVGRLayer& GetLayer(int index) const;
     /// The layer at a zero-based position of a file; the first one out of range.
@@ -192,6 +196,9 @@ public:
     void Forget(TVGRDimStyle& style);
     void Adopt(TVGRCounter& counter);
     void Forget(TVGRCounter& counter);
+    /// Its number or identifier, or the cell of a preview copy, is about to change.
+    void Renaming(TVGRBaseItem& item);
+    void Placing();
 
     // Units and values. "Restricted" quantities are shown in millimetres when the document's unit is larger than a
     // centimetre.
@@ -668,6 +675,7 @@ private:
     void PageMembers(TMembers& members);
     /// Takes an element out of its list, for a log or for good.
     template <class T>
+    void DropCalcs();
     void TakeOutPart(TOwned<T>& list, std::size_t index);
     template <class T>
     void ShrinkParts(TOwned<T>& list, std::size_t count);
@@ -773,6 +781,8 @@ private:
     std::vector<TKSSelectionValue> fSelPoint;
     std::u16string fLngFileName;
     TKSLSInfo fInfo;
+    std::unique_ptr<detail::TItemIndex> fIndex;
+    std::unique_ptr<detail::TCellIndex> fCells;
     std::u16string fImageFolder, fOpenImgFolder, fLibraryFolder;
     TKSChangeValue fChangeVal;
     TVGRBaseLibSymbol* fCurrentLibSym = nullptr;

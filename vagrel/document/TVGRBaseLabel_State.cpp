@@ -3,6 +3,7 @@
 // redone or taken back.
 #include <vagrel/document/TVGRBaseLabel.h>
 
+#include <vagrel/document/TItemIndex_p.h>
 #include <vagrel/document/TStateLog_p.h>
 #include <vagrel/document/TUndoStacks_p.h>
 #include <vagrel/document/TVGRBackSurf.h>
@@ -132,6 +133,7 @@ void TVGRBaseLabel::ExchangeState(TStateLog& log) {
             item.fReceiver->SetItem(nullptr);
         },
         [this](TVGRBaseItem& item) {
+    fIndex->Drop(); // names are exchanged, too
             item.fReceiver->SetItem(&item);
             RaiseMaxID(std::max(item.GetInID(), item.GetInID() + (item.GetInID() < INT32_MAX)));
         });
