@@ -211,6 +211,7 @@ TEST_F(Sessions, ADragTellsInThisOrder) {
     EXPECT_EQ(Traced(R"({"op":"Undo"})"), "  undo empty, redo filled\n"
                                           "  chPaint 1 -> editor preview\n"
                                           "  undo empty, redo filled\n"
+                                          "  chInspect -> inspector\n"
                                           "  = eaSelection edPickPoint\n");
     EXPECT_EQ(box.Points(), (TKSLPtoA{{10000, 10000}, {20000, 20000}}));
 }

@@ -726,6 +726,8 @@ private:
     // Editor: picking, handles, drags, crossings
 
     /// The topmost item that is visible, selectable and `wanted`; null for none. All searches by place come here, so
+    /// What is shown and told behind a step.
+    void ShowStep();
     /// that an index of places can stand here.
     template <class Wanted>
     TVGRBaseItem* TopItem(Wanted wanted) const;

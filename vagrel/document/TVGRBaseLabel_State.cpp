@@ -110,10 +110,7 @@ void TVGRBaseLabel::RollBackLog() {
     fStacks->RestoreGroup(log->group, log->inGroup);
     if (opened)
         fStates -= {lsUpdating, lsNoPaint};
-    const TFinally shown{[this] {
-        FillSelPoints();
-        Refresh();
-    }};
+    const TFinally shown{[this] { ShowStep(); }};
     TellExchanged(*log);
 }
 
@@ -133,10 +130,10 @@ void TVGRBaseLabel::ExchangeState(TStateLog& log) {
             item.fReceiver->SetItem(nullptr);
         },
         [this](TVGRBaseItem& item) {
-    fIndex->Drop(); // names are exchanged, too
             item.fReceiver->SetItem(&item);
             RaiseMaxID(std::max(item.GetInID(), item.GetInID() + (item.GetInID() < INT32_MAX)));
         });
+    fIndex->Drop(); // names are exchanged, too
     auto nothing = [](auto&) {};
     log.layers.Exchange(fLayers, nothing, nothing);
     log.styles.Exchange(fDimStyles, nothing, nothing);
