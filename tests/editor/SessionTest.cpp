@@ -116,6 +116,7 @@ TEST_F(Sessions, EveryToolDrawsOrSaysThatItCannot) {
             thrown = true;
             EXPECT_EQ(Where(), "eaSelection edPickPoint");
             EXPECT_TRUE(label.IsUndoEmpty());
+            EXPECT_EQ(label.SelectionCount(), 0) << "picked references";
         }
         (thrown ? missing : drawn) += 1;
         const std::u16string end = JsonOf(label);
