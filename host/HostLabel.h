@@ -76,7 +76,7 @@ public:
     TVGRBaseItem& CreateNutriScore(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) override;
     TVGRBaseItem& CreateSymbol(std::int64_t x, std::int64_t y) override;
     TVGRBaseItem& CreateDim(TKSLPto first, TKSLPto second, TKSLPto position) override;
-    TVGRBaseItem& CreateDimAng(const TKSLRefLine& first, const TKSLRefLine& second, TKSLPto side) override;
+    TVGRBaseItem* CreateDimAng(const TKSLRefLine& first, const TKSLRefLine& second, TKSLPto side) override;
     TVGRBaseItem& CreateDimRad1(TKSLPto center, std::int64_t radius, double angle) override;
     TVGRBaseItem& CreateDimRad2(TKSLPto center, std::int64_t radius, double angle) override;
     TVGRBaseItem& CreateDimDia1(TKSLPto center, std::int64_t radius, double angle) override;

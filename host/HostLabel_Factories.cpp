@@ -173,7 +173,7 @@ TVGRBaseItem& HostLabel::CreateNutriScore(std::int64_t, std::int64_t, std::int64
 }
 TVGRBaseItem& HostLabel::CreateSymbol(std::int64_t, std::int64_t) { return Make(itSymbol); }
 TVGRBaseItem& HostLabel::CreateDim(TKSLPto, TKSLPto, TKSLPto) { return Make(itDim); }
-TVGRBaseItem& HostLabel::CreateDimAng(const TKSLRefLine&, const TKSLRefLine&, TKSLPto) { return Make(itDim); }
+TVGRBaseItem* HostLabel::CreateDimAng(const TKSLRefLine&, const TKSLRefLine&, TKSLPto) { return &Make(itDim); }
 TVGRBaseItem& HostLabel::CreateDimRad1(TKSLPto, std::int64_t, double) { return Make(itDim); }
 TVGRBaseItem& HostLabel::CreateDimRad2(TKSLPto, std::int64_t, double) { return Make(itDim); }
 TVGRBaseItem& HostLabel::CreateDimDia1(TKSLPto, std::int64_t, double) { return Make(itDim); }

@@ -58,7 +58,7 @@ const TFactory Factories[] = {
     {itSymbol, [](auto& label) -> auto& { return label.CreateSymbol(U, U); }},
     {itBezier, [](auto& label) -> auto& { return label.CreateBezier({A, B, C, A}); }},
     {itDim, [](auto& label) -> auto& { return label.CreateDim(A, B, C); }},
-    {itDim, [](auto& label) -> auto& { return label.CreateDimAng({}, {}, C); }},
+    {itDim, [](auto& label) -> auto& { return *label.CreateDimAng({}, {}, C); }},
     {itDim, [](auto& label) -> auto& { return label.CreateDimRad1(A, U, 1); }},
     {itDim, [](auto& label) -> auto& { return label.CreateDimRad2(A, U, 1); }},
     {itDim, [](auto& label) -> auto& { return label.CreateDimDia1(A, U, 1); }},

@@ -51,7 +51,7 @@ public:
     Item& CreateNutriScore(TLength, TLength, TLength, TLength) override { NotMade(itNutriScore); }
     Item& CreateSymbol(TLength, TLength) override { NotMade(itSymbol); }
     Item& CreateDim(TKSLPto, TKSLPto, TKSLPto) override { NotMade(itDim); }
-    Item& CreateDimAng(const TKSLRefLine&, const TKSLRefLine&, TKSLPto) override { NotMade(itDim); }
+    Item* CreateDimAng(const TKSLRefLine&, const TKSLRefLine&, TKSLPto) override { NotMade(itDim); }
     Item& CreateDimRad1(TKSLPto, TLength, double) override { NotMade(itDim); }
     Item& CreateDimRad2(TKSLPto, TLength, double) override { NotMade(itDim); }
     Item& CreateDimDia1(TKSLPto, TLength, double) override { NotMade(itDim); }

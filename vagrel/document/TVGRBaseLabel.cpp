@@ -159,6 +159,27 @@ std::u16string TVGRBaseLabel::GetAbsoluteImagePath() const {
     return folder.is_absolute() ? fImageFolder : FromUtf8((ProgramFolder() / folder).string());
 }
 
+namespace {
+
+// An exact copy: what images of it were taken fits the new one too.
+template <class Part>
+void TakePlace(std::unique_ptr<Part>& place, std::unique_ptr<Part> own) {
+    if (!own)
+        return;
+    TImage values = ImageOf(*place);
+    ExchangeImage(*own, values);
+    place = std::move(own);
+}
+
+} // namespace
+
+void TVGRBaseLabel::TakeBackSurf(std::unique_ptr<TVGRBackSurf> own) { TakePlace(fBackSurf, std::move(own)); }
+void TVGRBaseLabel::TakePrintInfo(std::unique_ptr<TVGRBasePrintInfo> own) { TakePlace(fPrintInfo, std::move(own)); }
+
+void TVGRBaseLabel::ComposeImage(std::u16string_view, std::u16string_view, int, int, int) {
+    throw ENotAvailable(u"Map composition is not implemented by this Vagrel class");
+}
+
 void TVGRBaseLabel::SetMeasure(const TVGRMeasure& value) { fMeasure->Assign(value); }
 void TVGRBaseLabel::SetBackSurf(const TVGRBackSurf& value) { fBackSurf->Assign(value); }
 void TVGRBaseLabel::SetSettings(const TVGRSettings& value) { fSettings->Assign(value); }

@@ -159,6 +159,10 @@ public:
     /// One-based; -1 for none.
     int GetIdxLayerBack() const { return fIdxBack; }
     bool HasBackMargins() const;
+    /// Whether the picture of the background layer is still to be decoded: the document asks, and the host that has
+    /// decoded it says so.
+    bool GetNeedReadImg() const { return fNeedReadImg; }
+    void SetNeedReadImg(bool value) { fNeedReadImg = value; }
     int DimStylesCount() const { return int(fDimStyles.size()); }
     TVGRDimStyle* GetDimStyle(int index) const;
     TVGRDimStyle& GetActiveDimStyle() const;
@@ -167,6 +171,12 @@ public:
     TVGRCounter* GetCounter(int index) const;
     int SymbolCount() const { return int(fSymbols.size()); }
     TVGRBaseLibSymbol* GetSymbol(int index) const;
+    const TOwned<TVGRBaseLibSymbol>& Symbols() const { return fSymbols; }
+    /// The symbol that the symbol tool places: the one that was found or chosen last, null for none.
+    TVGRBaseLibSymbol* GetCurrentLibSym() const { return fCurrentLibSym; }
+    void SetCurrentLibSym(TVGRBaseLibSymbol* symbol) { fCurrentLibSym = symbol; }
+    /// What comes before a binary document is written: unused symbols go. There are none until a library gives some.
+    void CleanLibray() {}
     int SelectionCount() const { return int(fSelection.size()); }
     TVGRBaseItem* GetSelection(int index) const;
     bool IsInSelection(std::int32_t id) const;
@@ -571,7 +581,8 @@ public:
     virtual TVGRBaseItem& CreateNutriScore(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
     virtual TVGRBaseItem& CreateSymbol(std::int64_t x, std::int64_t y) = 0;
     virtual TVGRBaseItem& CreateDim(TKSLPto first, TKSLPto second, TKSLPto position) = 0;
-    virtual TVGRBaseItem& CreateDimAng(const TKSLRefLine& first, const TKSLRefLine& second, TKSLPto side) = 0;
+    /// Null where the segments make no angle.
+    virtual TVGRBaseItem* CreateDimAng(const TKSLRefLine& first, const TKSLRefLine& second, TKSLPto side) = 0;
     /// Angles in radians.
     virtual TVGRBaseItem& CreateDimRad1(TKSLPto center, std::int64_t radius, double angle) = 0;
     virtual TVGRBaseItem& CreateDimRad2(TKSLPto center, std::int64_t radius, double angle) = 0;
@@ -593,6 +604,10 @@ public:
 
     TKSLInfoMsgEvent OnInfoMsg;
     TKSLGetFontListEvent OnGetFontList;
+    /// Makes the picture of a map, or begins to, for an import of geometry: the centre in degrees as text, the size in
+    /// pixels. Throws ENotAvailable until a host overrides it.
+    virtual void ComposeImage(std::u16string_view latitude, std::u16string_view longitude, int zoom, int width,
+                              int height);
     TKSLUndoRedoEvent OnUndoRedo;
     TKSLReadSymEvent OnReadSym;
     TKSLSelectItem OnSelectItem;
@@ -611,6 +626,21 @@ protected:
     void Teardown();
     void Notification(TComponent* component, TOperation operation) override;
     /// The road of creation: `construct` makes an item, `initialise` finishes it, and then the creation is told to
+    /// Put an object of the host's class in the place of the document's own, for which it was made. It takes over the
+    /// values, so that steps of undo and open transactions go on; references to the former end. Null is ignored.
+    void TakeBackSurf(std::unique_ptr<TVGRBackSurf> own);
+    void TakePrintInfo(std::unique_ptr<TVGRBasePrintInfo> own);
+    /// What an import waits for between `ComposeImage` and the finished picture.
+    struct TAwaitedMap {
+        bool pending = false;
+        TKSLGMLMapTarget target = gmtLayerBackground;
+        TVGRLayer* mapLayer = nullptr;
+        TVGRLayer* parcelLayer = nullptr;
+        std::int64_t drawScale = 0;
+        TKSLUnits units = unMM;
+        std::int64_t width = 0, height = 0; ///< base units
+    };
+    TAwaitedMap fAwaitedMap;
     /// `OnUndoRedo`. When one of the three throws nothing is left of the item. Throws EInvalidOperation when the event
     /// has ended the item. An item that is made by a plain `new` is told with the next recording, the end of a bracket
     /// or a step.

@@ -227,7 +227,7 @@ void TVGRBaseLabel::ConstructAngle() {
             return;
     }
     const UpdateScope bracket(*this);
-    SetSelection(&CreateDimAng(first, second, picks[2]), isSelected);
+    SetSelection(CreateDimAng(first, second, picks[2]), isSelected);
 }
 
 } // namespace vagrel
