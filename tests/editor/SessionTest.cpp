@@ -211,8 +211,8 @@ TEST_F(Sessions, ADragTellsInThisOrder) {
     EXPECT_EQ(box.Points(), (TKSLPtoA{{12000, 10500}, {22000, 20500}}));
     EXPECT_EQ(Traced(R"({"op":"Undo"})"), "  undo empty, redo filled\n"
                                           "  chPaint 1 -> editor preview\n"
-                                          "  undo empty, redo filled\n"
                                           "  chInspect -> inspector\n"
+                                          "  undo empty, redo filled\n"
                                           "  = eaSelection edPickPoint\n");
     EXPECT_EQ(box.Points(), (TKSLPtoA{{10000, 10000}, {20000, 20000}}));
 }

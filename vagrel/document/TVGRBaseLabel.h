@@ -196,6 +196,9 @@ public:
     void Adopt(TVGRBaseItem& item);
     void Forget(TVGRBaseItem& item);
     void Touch(TVGRBaseItem& item);
+    /// Its number or identifier, or the cell of a preview copy, is about to change.
+    void Renaming(TVGRBaseItem& item);
+    void Placing();
     void Touch(TVGRLayer& layer);
     void Touch(TVGRDimStyle& style);
     void Touch(TVGRCounter& counter);
@@ -206,9 +209,6 @@ public:
     void Forget(TVGRDimStyle& style);
     void Adopt(TVGRCounter& counter);
     void Forget(TVGRCounter& counter);
-    /// Its number or identifier, or the cell of a preview copy, is about to change.
-    void Renaming(TVGRBaseItem& item);
-    void Placing();
 
     // Units and values. "Restricted" quantities are shown in millimetres when the document's unit is larger than a
     // centimetre.
@@ -255,6 +255,9 @@ public:
     /// are written to JSON and read from it in double; off at first.
     bool GetExactJson() const { return fExactJson; }
     void SetExactJson(bool value) { fExactJson = value; }
+    /// Whether a rectangle over one text opens its editor only in a document that can be edited; off at first.
+    bool GetGuardedTexts() const { return fGuardedTexts; }
+    void SetGuardedTexts(bool value) { fGuardedTexts = value; }
     bool GetModified() const { return fModified; }
     void SetModified(bool value) { fModified = value; }
     bool GetUpdate() const { return fUpdate; }
@@ -456,6 +459,8 @@ public:
     bool SearchRef(std::int64_t bx, std::int64_t by, std::int64_t gap, TShiftState shift, bool apply);
     /// Adds to the selection what lies in the rectangle, or with `cross` what it meets. False when nothing was added.
     bool SearchRectangle(const TKSLRect& rect, bool cross);
+    /// The selection rectangle that was drawn last; empty before the first.
+    const TKSLRect& GetSelectionRect() const { return fRect; }
     /// Puts centre and radius of the lowest circle there, hidden ones included, into slot 1 of the running action.
     bool SearchCircleAt(std::int64_t bx, std::int64_t by, std::int64_t gap);
     /// The anchor that a link would attach to. The positions that `link` holds stay except at the first pick.
@@ -599,15 +604,15 @@ public:
                            bool checkData, bool transparent, bool fit) = 0;
     virtual void LoadFromFile(std::u16string_view filename) = 0;
     virtual void SaveToFile(std::u16string_view filename, TKSLExt format) = 0;
+    /// Makes the picture of a map, or begins to, for an import of geometry: the centre in degrees as text, the size in
+    /// pixels. Throws ENotAvailable until a host overrides it.
+    virtual void ComposeImage(std::u16string_view latitude, std::u16string_view longitude, int zoom, int width,
+                              int height);
 
     // Events
 
     TKSLInfoMsgEvent OnInfoMsg;
     TKSLGetFontListEvent OnGetFontList;
-    /// Makes the picture of a map, or begins to, for an import of geometry: the centre in degrees as text, the size in
-    /// pixels. Throws ENotAvailable until a host overrides it.
-    virtual void ComposeImage(std::u16string_view latitude, std::u16string_view longitude, int zoom, int width,
-                              int height);
     TKSLUndoRedoEvent OnUndoRedo;
     TKSLReadSymEvent OnReadSym;
     TKSLSelectItem OnSelectItem;
@@ -621,11 +626,6 @@ protected:
     /// Creates the sub-objects and the first layer and dimension style.
     explicit TVGRBaseLabel(TComponent* owner);
 
-    /// Ends everything that belongs to the document; a second call does nothing. A host whose items use what the host
-    /// owns calls it first in its own destructor. While it runs nobody is told of anything.
-    void Teardown();
-    void Notification(TComponent* component, TOperation operation) override;
-    /// The road of creation: `construct` makes an item, `initialise` finishes it, and then the creation is told to
     /// Put an object of the host's class in the place of the document's own, for which it was made. It takes over the
     /// values, so that steps of undo and open transactions go on; references to the former end. Null is ignored.
     void TakeBackSurf(std::unique_ptr<TVGRBackSurf> own);
@@ -641,6 +641,11 @@ protected:
         std::int64_t width = 0, height = 0; ///< base units
     };
     TAwaitedMap fAwaitedMap;
+    /// Ends everything that belongs to the document; a second call does nothing. A host whose items use what the host
+    /// owns calls it first in its own destructor. While it runs nobody is told of anything.
+    void Teardown();
+    void Notification(TComponent* component, TOperation operation) override;
+    /// The road of creation: `construct` makes an item, `initialise` finishes it, and then the creation is told to
     /// `OnUndoRedo`. When one of the three throws nothing is left of the item. Throws EInvalidOperation when the event
     /// has ended the item. An item that is made by a plain `new` is told with the next recording, the end of a bracket
     /// or a step.
@@ -670,6 +675,7 @@ private:
     /// Arrow lines that show the unit measure themselves again; true when there is one.
     bool CheckNeedDrawUnits();
     void ClearSelectionLists();
+    void DropCalcs();
     void FreeItems(TOwned<TVGRBaseItem>& items);
     void AddBaseLayer();
     void AddBaseStyle();
@@ -705,7 +711,6 @@ private:
     void PageMembers(TMembers& members);
     /// Takes an element out of its list, for a log or for good.
     template <class T>
-    void DropCalcs();
     void TakeOutPart(TOwned<T>& list, std::size_t index);
     template <class T>
     void ShrinkParts(TOwned<T>& list, std::size_t count);
@@ -721,6 +726,8 @@ private:
     void Revive(const TVGRCmd& deletion, TReplay direction);
     void TakeBack(std::vector<TVGRCmd>& opposites, std::size_t before);
     void Discard(const TVGRCmd& creation);
+    /// What is shown and told behind a step.
+    void ShowStep();
     void ForgetCommands(TVGRBaseItem& item);
     void ClearCommands();
     void TellUndoRedo();
@@ -756,8 +763,6 @@ private:
     // Editor: picking, handles, drags, crossings
 
     /// The topmost item that is visible, selectable and `wanted`; null for none. All searches by place come here, so
-    /// What is shown and told behind a step.
-    void ShowStep();
     /// that an index of places can stand here.
     template <class Wanted>
     TVGRBaseItem* TopItem(Wanted wanted) const;
@@ -776,6 +781,8 @@ private:
     void WalkToLabel(std::int64_t label);
 
     // What items call while they are destroyed stands before their lists, and outlives them.
+    std::unique_ptr<detail::TItemIndex> fIndex;
+    std::unique_ptr<detail::TCellIndex> fCells;
     std::unique_ptr<detail::TUndoStacks> fStacks;
     std::vector<TLog> fLogs; ///< of open transactions, the innermost last
     Observers fObservers;
@@ -804,6 +811,7 @@ private:
     bool fUpdate = false;
     TVagrelOptions fOptions{loUniqueID, loUndoRedo};
     bool fExactJson = false;
+    bool fGuardedTexts = false;
     std::vector<TVGRBaseItem*> fSelection;
     std::vector<TVGRBaseItem*> fLinks;
     std::vector<TVGRBaseItem*> fCalcs;
@@ -813,11 +821,10 @@ private:
     std::vector<TKSSelectionValue> fSelPoint;
     std::u16string fLngFileName;
     TKSLSInfo fInfo;
-    std::unique_ptr<detail::TItemIndex> fIndex;
-    std::unique_ptr<detail::TCellIndex> fCells;
     std::u16string fImageFolder, fOpenImgFolder, fLibraryFolder;
     TKSChangeValue fChangeVal;
     TVGRBaseLibSymbol* fCurrentLibSym = nullptr;
+    TKSLRect fRect;
     bool fStepping = false;
     std::exception_ptr fStepFault;
     int fCreating = 0;      ///< items that are half built

@@ -87,7 +87,7 @@ bool TVGRBaseLabel::SearchRectangle(const TKSLRect& rect, bool cross) {
         return false;
     FillSelPoints();
     FillLinkList();
-    SelectionPicked({trText});
+    SelectionPicked(fGuardedTexts && !GetEditable() ? TItemTraits() : TItemTraits{trText});
     return true;
 }
 
