@@ -6,6 +6,7 @@
 #include <vagrel/foundation/Text.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace vagrel::detail {
 
@@ -78,17 +79,19 @@ void TItemIndex::Add(TVGRBaseItem& item) {
 }
 
 void TItemIndex::Bring(const TList& list) {
-    if (!fBuilt) {
-        Drop(); // what an exception left
+    // What fails half way is built anew.
+    if (std::exchange(fBuilt, false)) {
+        for (TVGRBaseItem* item : fFresh)
+            Add(*item);
+        fFresh.clear();
+    } else {
+        Drop();
         fNumbers.reserve(list.size());
         fIDs.reserve(list.size());
         for (const auto& item : list)
             Add(*item);
-        fBuilt = true;
     }
-    for (TVGRBaseItem* item : fFresh)
-        Add(*item);
-    fFresh.clear();
+    fBuilt = true;
 }
 
 TVGRBaseItem* TItemIndex::First(const TList& list, std::int32_t number) {
