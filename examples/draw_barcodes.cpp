@@ -8,6 +8,7 @@
 #include <vagrel/barcode/TVGRBaseMatrixCode.h>
 #include <vagrel/barcode/TVGRBasePDF417.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/messages/ListNames.h>
 

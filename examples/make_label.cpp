@@ -8,6 +8,7 @@
 #include <vagrel/barcode/TVGRBaseBarcode.h>
 #include <vagrel/barcode/TVGRBaseQRCode.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/items/figures/TVGRBaseRectangle.h>
 #include <vagrel/items/text/TVGRBaseText.h>

@@ -14,6 +14,7 @@ HostLabel::HostLabel(TComponent* owner) : HostLabel(owner, PangoText::ThisThread
 HostLabel::HostLabel(TComponent* owner, const TextMeasurer& measurer) : PartialLabel(owner), fMeasurer(measurer) {
     SetFreshCrossings(true);
     SetExactJson(true);
+    SetGuardedTexts(true);
     Loaded();
 }
 

@@ -7,6 +7,7 @@
 #include <vagrel/barcode/TVGRBaseBarcode.h>
 #include <vagrel/barcode/TVGRBaseMatrixCode.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Numbers.h>
 #include <vagrel/foundation/Rounding.h>

@@ -3,9 +3,12 @@
 #include "Commands.h"
 
 #include <host/HostLabel.h>
+#include <vagrel/document/TVGRBasePrintInfo.h>
 #include <vagrel/foundation/Text.h>
 
 #include <CLI/CLI.hpp>
+
+#include <iostream>
 
 namespace vagrel::cli {
 
@@ -24,11 +27,22 @@ TKSLExt FormatOf(const std::string& name) {
     throw CLI::ValidationError("OUT", "\"" + name + "\" ends neither in .json nor in .vgr");
 }
 
+// Each form has a number of the print run that the other one has no place for.
+void WarnOfLoss(const HostLabel& label, TKSLExt format) {
+    const TVGRBasePrintInfo& info = label.GetPrintInfo();
+    const bool json = format == lfJSON;
+    const std::int32_t value = json ? info.GetCopies() : info.GetNumLabs();
+    if (value != 1)
+        std::cerr << "vagrel: warning: the number of " << (json ? "copies" : "labels") << " (" << value
+                  << ") is lost: " << (json ? "JSON" : "the binary form") << " has no place for it\n";
+}
+
 void Run(const TConvert& arguments) {
     const TKSLExt format = FormatOf(arguments.out);
     HostLabel label;
     label.LoadFromFile(FromUtf8(arguments.in));
     label.SaveToFile(FromUtf8(arguments.out), format);
+    WarnOfLoss(label, format);
 }
 
 } // namespace

@@ -66,6 +66,12 @@ run 2 '.vgr' convert plan.json plan.txt
 head -c 100 plan.vgr >short.vgr
 run 1 'short.vgr: unexpected end' info short.vgr
 
+# What one of the forms has no place for is told, and told once.
+sed 's/"NumLabels": 1/"NumLabels": 7/' plan.json >labels.json
+"$vagrel" convert labels.json labels.vgr 2>err || fail 'convert refuses a number of labels'
+grep -qF 'labels (7) is lost' err && [ "$(wc -l <err)" -eq 1 ] || fail "convert loses labels in silence: $(cat err)"
+run 0 '' convert labels.json same.json
+
 iconv -f UTF-8 -t UTF-16 plan.json >wide.json
 run 0 '' convert wide.json back.json
 cmp -s plan.json back.json || fail 'a document in UTF-16 was not read as the same'

@@ -9,12 +9,15 @@
 #include <vagrel/barcode/TVGRBasePDF417.h>
 #include <vagrel/barcode/TVGRBaseQRCode.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/merge/TVGRData.h>
 #include <vagrel/persistence/TJsonObject.h>
+#include <vagrel/svg/TExSVG.h>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 namespace vagrel::test {
@@ -378,7 +381,12 @@ TEST_F(BarItemsTest, DigitsStandUnderTheirBars) {
                               "xml:space=\"preserve\" text-anchor=\"middle\" alignment-baseline=\"text-before-edge\" "
                               "transform=\"rotate(-90 21 6.80)\">A&lt;B</text>");
     EXPECT_TRUE(out.svg.front().ends_with("fill=\"#FFFFFF\" stroke-width=\"0\"/>"));
+    const std::string red = TExSVG::Barcode(bars, 0xFFFF0000, 1, svCurrentUnit);
+    EXPECT_EQ(std::ranges::count(red, '\n') + 2, std::ptrdiff_t(out.svg.size())) << "without the frame";
+    EXPECT_TRUE(red.ends_with(">A&lt;B</text>"));
+    EXPECT_EQ(red.find("#000000"), std::string::npos);
     bars.SetCodeType(btEAN13);
+    EXPECT_EQ(TExSVG::Barcode(bars, 0xFFFF0000, 1, svCurrentUnit), "");
     out.svg.clear();
     bars.WriteSVG(out);
     EXPECT_TRUE(out.svg.empty()) << "refused: not even the frame";

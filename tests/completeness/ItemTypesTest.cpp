@@ -6,6 +6,7 @@
 #include <tests/support/ItemSuite.h>
 
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/editor/TAct.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
@@ -57,7 +58,7 @@ const TFactory Factories[] = {
     {itSymbol, [](auto& label) -> auto& { return label.CreateSymbol(U, U); }},
     {itBezier, [](auto& label) -> auto& { return label.CreateBezier({A, B, C, A}); }},
     {itDim, [](auto& label) -> auto& { return label.CreateDim(A, B, C); }},
-    {itDim, [](auto& label) -> auto& { return label.CreateDimAng({}, {}, C); }},
+    {itDim, [](auto& label) -> auto& { return *label.CreateDimAng({}, {}, C); }},
     {itDim, [](auto& label) -> auto& { return label.CreateDimRad1(A, U, 1); }},
     {itDim, [](auto& label) -> auto& { return label.CreateDimRad2(A, U, 1); }},
     {itDim, [](auto& label) -> auto& { return label.CreateDimDia1(A, U, 1); }},

@@ -3,6 +3,7 @@
 #include <tests/document/ProbeItem.h>
 
 #include <vagrel/document/TVGRLayer.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/items/figures/TVGRBaseRectangle.h>
 

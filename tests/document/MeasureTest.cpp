@@ -155,5 +155,31 @@ TEST(TitleBlock, ExistsInChartsAndDrawingsOnALayerOfItsOwn) {
     EXPECT_EQ(&line->GetLayer(), &drawing.GetLayer(2));
 }
 
+TEST(TitleBlock, FilledTwiceIsTwoStepsBackToTheByte) {
+    TestHost drawing(emDrawing, unM, 50);
+    TVGRBaseItem& line = drawing.CreateLine(1, 2, 3, 4);
+    drawing.Clear({cleUndoRedo}, false);
+    std::vector<std::u16string> stands{JsonOf(drawing)};
+    const std::function<void()> steps[] = {[&] { drawing.FillBoxLayer(true); }, [&] { line.SetPenWidth(3); },
+                                           [&] { drawing.FillBoxLayer(true); }};
+    for (const auto& step : steps) {
+        step();
+        stands.push_back(JsonOf(drawing));
+    }
+    for (const int direction : {-1, 1}) {
+        for (std::size_t left = 3, at = direction < 0 ? 3 : 0; left > 0; --left) {
+            direction < 0 ? drawing.Undo() : drawing.Redo();
+            at += std::size_t(direction);
+            EXPECT_EQ(JsonOf(drawing), stands[at]) << at;
+        }
+        EXPECT_TRUE(direction < 0 ? drawing.IsUndoEmpty() : drawing.IsRedoEmpty());
+    }
+    // Where no transaction may begin it is filled all the same.
+    drawing.BeginRead(true);
+    drawing.FillBoxLayer(true);
+    drawing.EndRead(false);
+    EXPECT_EQ(drawing.ItemsCount(), 9);
+}
+
 } // namespace
 } // namespace vagrel::test

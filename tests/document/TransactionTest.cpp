@@ -9,6 +9,7 @@
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/document/TVGRSettings.h>
 #include <vagrel/document/Transaction.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/items/lines/TVGRDimStyle.h>
@@ -417,6 +418,37 @@ TEST_F(Transactions, EndAReadingThatBeganInside) {
     EXPECT_FALSE(label.HasAnyState({lsReading, lsUpdating}));
     EXPECT_TRUE(label.GetOptions().Has(loUndoRedo));
     EXPECT_TRUE(before.Equals(label));
+}
+
+TEST_F(Transactions, OutliveTheObjectsThatAHostHandsIn) {
+    struct TOwnParts : TestHost {
+        using TestHost::TakeBackSurf;
+        using TestHost::TakePrintInfo;
+    } host;
+    struct TOwnBack : TVGRBackSurf {
+        using TVGRBackSurf::TVGRBackSurf;
+        bool ReadFileImage() override { return true; }
+    };
+    host.GetBackSurf().SetColor(3);
+    host.GetPrintInfo().SetRepetition(4);
+    host.Clear({cleUndoRedo}, false);
+    const TStand before(host);
+    Transaction change(host);
+    host.GetBackSurf().SetColor(5);
+    host.TakeBackSurf(std::make_unique<TOwnBack>(host, true));
+    host.TakePrintInfo(std::make_unique<TVGRBasePrintInfo>(host));
+    host.TakePrintInfo(nullptr);
+    EXPECT_EQ(host.GetBackSurf().GetColor(), 5u);
+    EXPECT_TRUE(host.GetBackSurf().ReadFileImage()) << "the host's own";
+    EXPECT_EQ(host.GetPrintInfo().GetRepetition(), 4);
+    host.GetPrintInfo().SetRepetition(6);
+    EXPECT_TRUE(change.Commit());
+    host.TakePrintInfo(std::make_unique<TVGRBasePrintInfo>(host));
+    host.Undo();
+    EXPECT_TRUE(before.Equals(host));
+    host.Redo();
+    EXPECT_EQ(host.GetPrintInfo().GetRepetition(), 6);
+    EXPECT_THROW(host.ComposeImage(u"0", u"0", 1, 1, 1), ENotAvailable);
 }
 
 TEST_F(Transactions, EverySetterOfEveryFamilyIsUndone) {

@@ -4,6 +4,7 @@
 
 #include <vagrel/document/TVGRCmd.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Exceptions.h>
 
 #include <gmock/gmock.h>
@@ -32,6 +33,20 @@ protected:
     RecordingObserver editor{duEditor};
     std::vector<TFlags> events;
 };
+
+TEST_F(Undo, TheInspectorHearsOfEachStep) {
+    RecordingObserver inspector(duInspector);
+    label.Attach(&inspector);
+    label.SetSelection(&line, isSelected);
+    line.SetPenWidth(2);
+    inspector.Take(), editor.Take();
+    for (const auto step : {&TVGRBaseLabel::Undo, &TVGRBaseLabel::Redo, &TVGRBaseLabel::Redo}) {
+        const bool steps = step == &TVGRBaseLabel::Undo || !label.IsRedoEmpty();
+        (label.*step)();
+        EXPECT_EQ(inspector.Take(), std::vector<TKSChange>(steps, chInspect));
+        EXPECT_EQ(editor.Take(), std::vector<TKSChange>(steps, chPaint));
+    }
+}
 
 TEST_F(Undo, ARunOfChangesOfOnePropertyIsOneCommand) {
     IKSLBack& back = *Query<IKSLBack>(&box);

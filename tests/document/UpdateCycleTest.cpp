@@ -2,6 +2,7 @@
 // Who is told what and when: changes, brackets, and what observers may do meanwhile.
 #include <tests/document/ProbeItem.h>
 
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/editor/TAct.h>
 
 #include <gmock/gmock.h>

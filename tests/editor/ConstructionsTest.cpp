@@ -18,6 +18,7 @@ public:
     using TestHost::TestHost;
 
     std::string called;
+    bool noAngle = false;
 
     // clang-format off
     TVGRBaseItem& CreatePara(TBase x, TBase y, TBase w, TBase h) override { return Note(itPara, {x, y, w, h}); }
@@ -40,7 +41,7 @@ public:
     TVGRBaseItem& CreateNutriScore(TBase x, TBase y, TBase w, TBase h) override { return Note(itNutriScore, {x, y, w, h}); }
     TVGRBaseItem& CreateSymbol(TBase x, TBase y) override { return Note(itSymbol, {x, y}); }
     TVGRBaseItem& CreateDim(TKSLPto a, TKSLPto b, TKSLPto c) override { return Note(itDim, {a.bX, a.bY, b.bX, b.bY, c.bX, c.bY}); }
-    TVGRBaseItem& CreateDimAng(const TKSLRefLine& a, const TKSLRefLine& b, TKSLPto side) override { return Note(itDim, {a.bX1, a.bY1, a.bX2, a.bY2, b.bX1, b.bY1, b.bX2, b.bY2, side.bX, side.bY}); }
+    TVGRBaseItem* CreateDimAng(const TKSLRefLine& a, const TKSLRefLine& b, TKSLPto side) override { return noAngle ? nullptr : &Note(itDim, {a.bX1, a.bY1, a.bX2, a.bY2, b.bX1, b.bY1, b.bX2, b.bY2, side.bX, side.bY}); }
     TVGRBaseItem& CreateDimRad1(TKSLPto c, TBase r, double angle) override { return Note(itDim, {1, c.bX, c.bY, r, Round(angle * 1000)}); }
     TVGRBaseItem& CreateDimRad2(TKSLPto c, TBase r, double angle) override { return Note(itDim, {2, c.bX, c.bY, r, Round(angle * 1000)}); }
     TVGRBaseItem& CreateDimDia1(TKSLPto c, TBase r, double angle) override { return Note(itDim, {3, c.bX, c.bY, r, Round(angle * 1000)}); }
@@ -156,6 +157,11 @@ TEST_F(Constructions, AnglesAreBetweenTwoSegments) {
                         "  info \"Selection\" \"Select point\"\n"),
               std::string::npos);
     EXPECT_EQ(label.SelectionCount(), 0);
+
+    label.noAngle = true;
+    Draw("eaDimAng", {{9000, 0}, {5000, 9000}, {1, 2}});
+    EXPECT_EQ(Where(), "eaSelection edPickPoint");
+    EXPECT_EQ(label.ItemsCount(), 3);
 }
 
 TEST_F(Constructions, AnglesOfOneChainAreBetweenNeighbours) {

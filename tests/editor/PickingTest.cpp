@@ -120,6 +120,17 @@ TEST_F(Picking, ASingleTextIsOpenedForEditing) {
     label.SetEditable(false);
     Click({21000, 11000});
     EXPECT_EQ(Told(), TChanges{chSelect});
+
+    // A rectangle asks only where the host wants it.
+    for (const bool guarded : {false, true}) {
+        TAct::Reset();
+        label.ClearSelection(false);
+        label.SetGuardedTexts(guarded);
+        label.PickEditor(31000, 14500, 300, {}, false);
+        label.UpEditor(26000, 9000);
+        EXPECT_EQ(Told(), TChanges{guarded ? chSelect : chText});
+        EXPECT_EQ(label.GetSelectionRect(), TKSLRect(26000, 9000, 31000, 14500));
+    }
 }
 
 TEST_F(Picking, ATextThatItsHostDeletesStaysDeleted) {

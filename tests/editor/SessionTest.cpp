@@ -116,6 +116,7 @@ TEST_F(Sessions, EveryToolDrawsOrSaysThatItCannot) {
             thrown = true;
             EXPECT_EQ(Where(), "eaSelection edPickPoint");
             EXPECT_TRUE(label.IsUndoEmpty());
+            EXPECT_EQ(label.SelectionCount(), 0) << "picked references";
         }
         (thrown ? missing : drawn) += 1;
         const std::u16string end = JsonOf(label);
@@ -210,6 +211,7 @@ TEST_F(Sessions, ADragTellsInThisOrder) {
     EXPECT_EQ(box.Points(), (TKSLPtoA{{12000, 10500}, {22000, 20500}}));
     EXPECT_EQ(Traced(R"({"op":"Undo"})"), "  undo empty, redo filled\n"
                                           "  chPaint 1 -> editor preview\n"
+                                          "  chInspect -> inspector\n"
                                           "  undo empty, redo filled\n"
                                           "  = eaSelection edPickPoint\n");
     EXPECT_EQ(box.Points(), (TKSLPtoA{{10000, 10000}, {20000, 20000}}));

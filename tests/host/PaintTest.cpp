@@ -9,6 +9,7 @@
 #include <tests/support/ItemSuite.h>
 #include <vagrel/barcode/TVGRBaseCode.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/items/text/TVGRBaseText.h>

@@ -4,6 +4,7 @@
 
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/persistence/TBinaryWriter.h>

@@ -4,6 +4,7 @@
 #include <tests/support/TestHost.h>
 
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/items/text/LabelPosition.h>

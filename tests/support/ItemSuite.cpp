@@ -8,6 +8,7 @@
 #include <vagrel/barcode/TVGRBasePDF417.h>
 #include <vagrel/barcode/TVGRBaseQRCode.h>
 #include <vagrel/document/TVGRBasePoint.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/items/figures/TVGRBaseBezier.h>
 #include <vagrel/items/figures/TVGRBaseCircle.h>
 #include <vagrel/items/figures/TVGRBaseEllipse.h>

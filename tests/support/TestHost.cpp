@@ -10,6 +10,7 @@ namespace vagrel::test {
 TestHost::TestHost(TKSLEditorMode mode, TKSLUnits units, std::int64_t scale) : PartialLabel(nullptr) {
     SetFreshCrossings(true);
     SetExactJson(true);
+    SetGuardedTexts(true);
     Loaded();
     SetEditorMode(mode);
     SetUnits(units);

@@ -108,6 +108,28 @@ TEST(DocumentSvg, IsWellFormedWhateverTheNames) {
     EXPECT_THAT(label.SVG(svCurrentUnit, 1, true), HasSubstr("<path"));
 }
 
+TEST(DocumentSvg, TurnedBoxesStandWhereTheyLook) {
+    TestHost label;
+    TVGRBaseItem* boxes[] = {&label.CreateRectangle(0, 0, 1, 1), &label.CreateCircle({5, 5}, 5),
+                             &label.CreateEllipse({5, 5}, 5, 4), &label.CreateSector({5, 5}, 5, 0, 90)};
+    for (TVGRBaseItem* box : boxes)
+        box->AssignPoints({{1000, 2000}, {5000, 6000}});
+    const std::string upright = label.SVG(svCurrentUnit, 1, false);
+    for (const TKSLPtoA& points : {TKSLPtoA{{5000, 6000}, {1000, 2000}}, {{1000, 6000}, {5000, 2000}}}) {
+        for (TVGRBaseItem* box : boxes)
+            box->AssignPoints(points);
+        const auto before = JsonOf(label);
+        const TKSLRect bounds = boxes[1]->BoundsRect();
+        EXPECT_EQ(label.SVG(svCurrentUnit, 1, false), upright);
+        EXPECT_THAT(label.SheetSVG(svCurrentUnit, 1, false), Not(HasSubstr("\"-")));
+        EXPECT_EQ(JsonOf(label), before);
+        EXPECT_EQ(boxes[1]->BoundsRect(), bounds);
+    }
+    TSVGOutput out;
+    boxes[0]->WriteSVG(out);
+    EXPECT_THAT(out.svg[0], HasSubstr("y=\"6\"")) << "an item alone writes what is stored";
+}
+
 TEST(DocumentSvg, ARealDrawingSurvivesItsFile) {
     TestHost label;
     label.LoadFromFile(u"" VAGREL_SAMPLE);

@@ -98,6 +98,8 @@ public:
     std::vector<TKSLRect> DarkRects() const override { return Bars(fDrCode); }
     void CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorTypes& props) const override;
     void WriteSVG(TSVGOutput& out) const override;
+    /// The bars and digits alone.
+    void WriteSymbol(TSVGOutput& out, TAlphaColor color) const;
     void Members(TMembers& members) override;
 
 protected:
@@ -122,7 +124,7 @@ private:
     TBarSizes Sizes() const { return {fBarWidth, fBarHeight, fFactor, fFontHeight}; }
     std::vector<TKSLRect> Bars(std::string_view pattern) const;
     std::vector<TPlacedDigits> Digits(std::string_view code, std::string_view pattern) const;
-    void WriteDigits(TSVGOutput& out, const TPlacedDigits& digits) const;
+    void WriteDigits(TSVGOutput& out, const TPlacedDigits& digits, TAlphaColor color) const;
 
     std::int32_t fDistance = 0;
     bool fShowNumber = true;

@@ -8,6 +8,7 @@
 #include <vagrel/items/text/TextSvg.h>
 #include <vagrel/persistence/TBinaryFields.h>
 #include <vagrel/persistence/TJsonFields.h>
+#include <vagrel/svg/TExSVG.h>
 
 #include <algorithm>
 
@@ -67,21 +68,36 @@ void TVGRBaseBarcode::WriteSVG(TSVGOutput& out) const {
     if (!fIsValid)
         return;
     WriteFrame(out);
-    // Not the stored pattern: a change may wait for its calculation.
-    const TPrepared prepared = Prepare();
-    WriteRects(out, Bars(prepared.pattern));
-    for (const TPlacedDigits& digits : Digits(prepared.code, prepared.pattern))
-        WriteDigits(out, digits);
+    WriteSymbol(out, fColor);
 }
 
-void TVGRBaseBarcode::WriteDigits(TSVGOutput& out, const TPlacedDigits& digits) const {
+void TVGRBaseBarcode::WriteSymbol(TSVGOutput& out, TAlphaColor color) const {
+    // Not the stored pattern: a change may wait for its calculation.
+    const TPrepared prepared = Prepare();
+    WriteRects(out, Bars(prepared.pattern), color);
+    for (const TPlacedDigits& digits : Digits(prepared.code, prepared.pattern))
+        WriteDigits(out, digits, color);
+}
+
+std::string TExSVG::Barcode(const TVGRBaseBarcode& aBarcode, TAlphaColor fColor, float aFactor,
+                            TKSLExportSVG ExportType) {
+    TSVGOutput out{ExportType, aFactor, false, false, {}, {}};
+    if (aBarcode.IsValid())
+        aBarcode.WriteSymbol(out, fColor);
+    std::string text;
+    for (const std::string& element : out.svg)
+        (text += text.empty() ? "" : "\r\n") += element;
+    return text;
+}
+
+void TVGRBaseBarcode::WriteDigits(TSVGOutput& out, const TPlacedDigits& digits, TAlphaColor color) const {
     const float x = GetMM(digits.at.bX), y = GetMM(digits.at.bY);
     SvgElement text = out.Element();
     (text << "<text").Attr("x", x).Attr("y", out.portable ? y + GetBaseValue(fMeasured.ascent) : y)
         << " font-family=\"";
     (text.Name(fFontName) << "\"")
             .Attr("font-size", float(double(GetBaseValue(fFontHeight)) * fMeasured.ratio))
-            .Fill(fColor)
+            .Fill(color)
         << " xml:space=\"preserve\"" << TextAnchor(digits.align, vaTop, out.portable);
     if (fAngle >= ag90 && fAngle <= ag270) {
         (text << "transform=\"rotate(" << std::to_string(DegAngle(fAngle)) << " ").Val(x) << " ";

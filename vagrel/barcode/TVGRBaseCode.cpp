@@ -196,11 +196,11 @@ void TVGRBaseCode::WriteFrame(TSVGOutput& out) const {
 }
 
 // An identifier stands once in a document: at the frame, or without one at the first bar.
-void TVGRBaseCode::WriteRects(TSVGOutput& out, const std::vector<TKSLRect>& rects) const {
+void TVGRBaseCode::WriteRects(TSVGOutput& out, const std::vector<TKSLRect>& rects, TAlphaColor color) const {
     bool named = fFill;
     for (const TKSLRect& dark : rects) {
         SvgElement rect = out.Element();
-        (WriteBox(rect, *this, dark) << (named ? "" : GetSVGID(out))).Fill(fColor) << "/>";
+        (WriteBox(rect, *this, dark) << (named ? "" : GetSVGID(out))).Fill(color) << "/>";
         named = true;
         out.svg.push_back(rect.Take());
     }

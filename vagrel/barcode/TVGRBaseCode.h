@@ -106,7 +106,7 @@ protected:
 
     /// The frame in the back colour.
     void WriteFrame(TSVGOutput& out) const;
-    void WriteRects(TSVGOutput& out, const std::vector<TKSLRect>& rects) const;
+    void WriteRects(TSVGOutput& out, const std::vector<TKSLRect>& rects, TAlphaColor color) const;
 
     std::u16string fCode;
     std::int32_t fBarWidth, fBarHeight, fPaddingX, fPaddingY;

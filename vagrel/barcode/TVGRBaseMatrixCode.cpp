@@ -62,7 +62,7 @@ void TVGRBaseMatrixCode::CheckProp(TKSLInpectorBaseTypes& base, TKSLInpectorType
 
 void TVGRBaseMatrixCode::WriteSVG(TSVGOutput& out) const {
     WriteFrame(out);
-    WriteRects(out, DarkRects());
+    WriteRects(out, DarkRects(), fColor);
 }
 
 // Files

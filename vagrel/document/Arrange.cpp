@@ -4,6 +4,7 @@
 
 #include <vagrel/document/TVGRBaseItem.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Arranging.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Units.h>

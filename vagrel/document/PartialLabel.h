@@ -32,7 +32,7 @@ public:
     void ReadDocument(TJsonObject& root);
     void ReadDocument(std::string_view bytes);
     /// The bytes of the binary file: the document's blocks, then the counted symbols, then the counted items.
-    std::string ToBinary() const;
+    std::string ToBinary();
 
     /// Makes the preview copies anew: one of each item that is bound to data for each cell of the sheet.
     /// Throws EOutOfRange for a sheet of more than 10,000 cells.
@@ -73,7 +73,7 @@ public:
     Item& CreateNutriScore(TLength x, TLength y, TLength width, TLength height) override;
     Item& CreateSymbol(TLength x, TLength y) override;
     Item& CreateDim(TKSLPto first, TKSLPto second, TKSLPto position) override;
-    Item& CreateDimAng(const TKSLRefLine& first, const TKSLRefLine& second, TKSLPto side) override;
+    Item* CreateDimAng(const TKSLRefLine& first, const TKSLRefLine& second, TKSLPto side) override;
     Item& CreateDimRad1(TKSLPto center, TLength radius, double angle) override;
     Item& CreateDimRad2(TKSLPto center, TLength radius, double angle) override;
     Item& CreateDimDia1(TKSLPto center, TLength radius, double angle) override;

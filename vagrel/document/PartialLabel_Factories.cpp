@@ -172,7 +172,7 @@ TVGRBaseItem& PartialLabel::CreateNutriScore(std::int64_t, std::int64_t, std::in
 }
 TVGRBaseItem& PartialLabel::CreateSymbol(std::int64_t, std::int64_t) { return Make(itSymbol); }
 TVGRBaseItem& PartialLabel::CreateDim(TKSLPto, TKSLPto, TKSLPto) { return Make(itDim); }
-TVGRBaseItem& PartialLabel::CreateDimAng(const TKSLRefLine&, const TKSLRefLine&, TKSLPto) { return Make(itDim); }
+TVGRBaseItem* PartialLabel::CreateDimAng(const TKSLRefLine&, const TKSLRefLine&, TKSLPto) { return &Make(itDim); }
 TVGRBaseItem& PartialLabel::CreateDimRad1(TKSLPto, std::int64_t, double) { return Make(itDim); }
 TVGRBaseItem& PartialLabel::CreateDimRad2(TKSLPto, std::int64_t, double) { return Make(itDim); }
 TVGRBaseItem& PartialLabel::CreateDimDia1(TKSLPto, std::int64_t, double) { return Make(itDim); }

@@ -132,7 +132,8 @@ void PartialLabel::LoadFromFile(TView filename) {
     AtPlace(name, [&] { ReadDocument(bytes); });
 }
 
-std::string PartialLabel::ToBinary() const {
+std::string PartialLabel::ToBinary() {
+    CleanLibray();
     TBinaryWriter writer;
     WriteBaseData(writer);
     WriteData(writer);
@@ -151,14 +152,9 @@ void PartialLabel::SaveToFile(TView filename, TKSLExt format) {
 // Single items
 
 TVGRBaseItem& PartialLabel::ReadItem(std::int32_t version, TBinaryReader& reader, TKSLReadType type) {
-    TVGRBaseItem& item = MakeItem(ActiveLayer(), TKSLItemType(reader.Read<std::int32_t>()), 0, false);
-    try {
-        item.ReadData(version, reader, type);
-    } catch (...) {
-        FreeItem(item);
-        throw;
-    }
-    return item;
+    return NewItem(
+        [&]() -> TVGRBaseItem& { return MakeItem(ActiveLayer(), TKSLItemType(reader.Read<std::int32_t>()), 0, false); },
+        [&](TVGRBaseItem& item) { item.ReadData(version, reader, type); });
 }
 
 TVGRBaseItem& PartialLabel::CreateElementFromStream(std::string_view snapshot) {

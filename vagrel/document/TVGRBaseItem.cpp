@@ -31,7 +31,7 @@ TVGRBaseItem::TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& l
     : fOwner(owner), fItemType(type), fLayer(&layer), fPoints(std::size_t(NumPointsItem(type))), fFromPreview(preview) {
     if (!owner.HasAnyState({lsReading, lsPaste}))
         fInID = owner.NextID();
-    fID = DefaultName();
+    fID = DefaultName(); // nobody knows the item yet
 }
 
 TVGRBaseItem::~TVGRBaseItem() { fOwner.Forget(*this); }
@@ -49,6 +49,8 @@ void TVGRBaseItem::Members(TMembers& members) {
 
 std::u16string TVGRBaseItem::DefaultName() const { return std::u16string(NameItem(fItemType)) + IntToStr(fInID, 3); }
 
+void TVGRBaseItem::SetName() { PutName(fID, DefaultName()); }
+
 void TVGRBaseItem::SetID(std::u16string_view value) {
     if (value == fID)
         return;
@@ -56,10 +58,21 @@ void TVGRBaseItem::SetID(std::u16string_view value) {
     if (fOwner.GetOptions().Has(loUniqueID) && fOwner.RepeatID(trimmed, this))
         throw EInvalidOperation(TVGRMsg::GetErrorValue(u"RepeatID"));
     fOwner.SetModified(true);
-    Put(fID, trimmed);
+    PutName(fID, trimmed);
 }
 
 void TVGRBaseItem::Touch() { fOwner.Touch(*this); }
+
+void TVGRBaseItem::TouchName() {
+    Touch();
+    fOwner.Renaming(*this);
+}
+
+void TVGRBaseItem::PreviewPos(std::int16_t column, std::int16_t row) {
+    fOwner.Placing();
+    aCol = column;
+    aRow = row;
+}
 
 bool TVGRBaseItem::Record(TUndoRow row) {
     Touch();
@@ -127,8 +140,8 @@ void TVGRBaseItem::DrawElement(const TVGRBaseDraw& draw) {
 }
 
 void TVGRBaseItem::DrawPreview(const TVGRBaseDraw& draw) {
-    for (const auto& copy : fOwner.Preview())
-        if (copy->fInID == fInID && copy->aRow == draw.aRow && copy->aCol == draw.aCol)
+    for (TVGRBaseItem* copy : fOwner.PreviewOf(draw.aRow, draw.aCol))
+        if (copy->fInID == fInID)
             copy->DrawItem(draw);
 }
 

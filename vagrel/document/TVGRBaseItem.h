@@ -66,14 +66,14 @@ public:
     TVGRBaseLabel& KSLab() const { return fOwner; }
     /// Number, unique in the document: the key of links and commands.
     std::int32_t GetInID() const { return fInID; }
-    void SetInID(std::int32_t value) { Put(fInID, value); }
+    void SetInID(std::int32_t value) { PutName(fInID, value); }
     const std::u16string& GetID() const { return fID; }
     /// Stores the trimmed text. Throws EInvalidOperation when identifiers must be unique and another item has this one.
     void SetID(std::u16string_view value);
     /// Stores an identifier that the system gives, without the test.
-    void SetFixedID(std::u16string_view value) { Put(fID, value); }
+    void SetFixedID(std::u16string_view value) { PutName(fID, value); }
     /// The default identifier: the type's name and the number with at least three digits.
-    void SetName() { Put(fID, DefaultName()); }
+    void SetName();
     TKSLItemType GetItemType() const { return fItemType; }
     const TItemTypeRow& TypeRow() const { return ItemTypeRow(fItemType); }
     bool HasTrait(TItemTrait trait) const { return vagrel::HasTrait(fItemType, trait); }
@@ -204,7 +204,8 @@ public:
     virtual void ResolveReferences() {}
     /// True when the item shows a length with the document's unit.
     virtual bool ShowsUnits() const { return false; }
-    void PreviewPos(std::int16_t column, std::int16_t row) { aCol = column, aRow = row; }
+    /// The sheet cell of a preview copy.
+    void PreviewPos(std::int16_t column, std::int16_t row);
     std::int16_t GetCol() const { return aCol; }
     std::int16_t GetRow() const { return aRow; }
 
@@ -270,10 +271,17 @@ protected:
     /// Says to the document that members are about to change: what changes them without `Store` or `Record` calls it
     /// first.
     void Touch();
+    /// The same for the number and the identifier, by which the document finds items.
+    void TouchName();
     /// Touches and stores, and nothing more.
     template <class T, class Value>
     void Put(T& field, Value&& value) {
         Touch();
+        field = std::forward<Value>(value);
+    }
+    template <class T, class Value>
+    void PutName(T& field, Value&& value) {
+        TouchName();
         field = std::forward<Value>(value);
     }
     /// What a setter does with a clamped value: nothing for an equal one; else it records the old one, stores, and
@@ -292,7 +300,6 @@ protected:
     bool IsExact(double coordinate) const;
     /// A coordinate as JSON has it.
     double CoordinateOf(std::int64_t base) const;
-    std::u16string DefaultName() const;
     bool InRange(int index) const { return index >= 1 && index <= int(fPoints.size()); }
     TKSLPto& At(int index) { return fPoints[std::size_t(index - 1)]; }
     const TKSLPto& At(int index) const { return fPoints[std::size_t(index - 1)]; }
@@ -351,8 +358,10 @@ private:
     enum class TStage { Built };
     /// An item that nobody knows yet.
     TVGRBaseItem(TVGRBaseLabel& owner, TKSLItemType type, TVGRLayer& layer, bool preview, TStage);
+    std::u16string DefaultName() const;
 
     std::shared_ptr<TVGRReceiver> fReceiver;
+    bool fAwaitsCalc = false; ///< stands in the document's list of items to calculate
 };
 
 template <class T>

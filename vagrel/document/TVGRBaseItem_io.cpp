@@ -62,7 +62,7 @@ std::unique_ptr<TJsonObject> TVGRBaseItem::WriteJson() const {
 }
 
 void TVGRBaseItem::ReadJson(std::int32_t, TJsonObject& json) {
-    Touch();
+    TouchName();
     fInID = json.GetInt(u"InID");
     CheckNumber(fInID);
     fID = json.GetString(u"ID");
@@ -120,7 +120,7 @@ void TVGRBaseItem::WriteData(TBinaryWriter& writer) const {
 }
 
 void TVGRBaseItem::ReadData(std::int32_t version, TBinaryReader& reader, TKSLReadType type) {
-    Touch();
+    TouchName();
     fInID = reader.Read<std::int32_t>();
     fID = reader.ReadString();
     if (type == rdPaste) {

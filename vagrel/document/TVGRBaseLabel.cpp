@@ -2,6 +2,7 @@
 // The life of a document, its identifiers and its simple properties.
 #include <vagrel/document/TVGRBaseLabel.h>
 
+#include <vagrel/document/TItemIndex_p.h>
 #include <vagrel/document/TUndoStacks_p.h>
 #include <vagrel/document/TVGRBackSurf.h>
 #include <vagrel/document/TVGRBaseItem.h>
@@ -34,7 +35,8 @@ TVGRBaseLabel* TVGRBaseLabel::Create(TComponent*) {
 }
 
 TVGRBaseLabel::TVGRBaseLabel(TComponent* owner)
-    : TComponent(owner), fStacks(std::make_unique<detail::TUndoStacks>()), fGuides(std::make_unique<Guides>()),
+    : TComponent(owner), fIndex(std::make_unique<detail::TItemIndex>()), fCells(std::make_unique<detail::TCellIndex>()),
+      fStacks(std::make_unique<detail::TUndoStacks>()), fGuides(std::make_unique<Guides>()),
       fGroupDrag(std::make_unique<GroupDrag>()),
       fCrossings(std::make_unique<CrossingsWorker>([this] { return FiguresOf(*this); })),
       fPrintInfo(std::make_unique<TVGRBasePrintInfo>(*this)), fData(std::make_unique<TVGRData>(*this)),
@@ -99,18 +101,17 @@ std::int32_t TVGRBaseLabel::NextID() { return fMaxID < std::numeric_limits<std::
 void TVGRBaseLabel::RaiseMaxID(std::int32_t id) { fMaxID = std::max(fMaxID, id); }
 
 bool TVGRBaseLabel::RepeatID(std::u16string_view id, const TVGRBaseItem* item) const {
-    return std::ranges::any_of(fItems,
-                               [&](const auto& other) { return other.get() != item && SameText(other->GetID(), id); });
+    return fIndex->Repeats(fItems, id, item);
 }
 
 TVGRBaseItem* TVGRBaseLabel::SearchItem(std::int32_t id, bool scrollToView) {
-    const auto found = std::ranges::find_if(fItems, [id](const auto& item) { return item->GetInID() == id; });
-    return found == fItems.end() ? nullptr : Found(**found, scrollToView);
+    TVGRBaseItem* item = fIndex->First(fItems, id);
+    return item ? Found(*item, scrollToView) : nullptr;
 }
 
 TVGRBaseItem* TVGRBaseLabel::SearchItem(std::u16string_view id, bool scrollToView) {
-    const auto found = std::ranges::find_if(fItems, [id](const auto& item) { return SameText(item->GetID(), id); });
-    return found == fItems.end() ? nullptr : Found(**found, scrollToView);
+    TVGRBaseItem* item = fIndex->First(fItems, id);
+    return item ? Found(*item, scrollToView) : nullptr;
 }
 
 TVGRBaseItem* TVGRBaseLabel::Found(TVGRBaseItem& item, bool scrollToView) {
@@ -156,6 +157,27 @@ void TVGRBaseLabel::SetLngFileName(std::u16string_view value) {
 std::u16string TVGRBaseLabel::GetAbsoluteImagePath() const {
     const std::filesystem::path folder(ToUtf8(fImageFolder));
     return folder.is_absolute() ? fImageFolder : FromUtf8((ProgramFolder() / folder).string());
+}
+
+namespace {
+
+// An exact copy: what images of it were taken fits the new one too.
+template <class Part>
+void TakePlace(std::unique_ptr<Part>& place, std::unique_ptr<Part> own) {
+    if (!own)
+        return;
+    TImage values = ImageOf(*place);
+    ExchangeImage(*own, values);
+    place = std::move(own);
+}
+
+} // namespace
+
+void TVGRBaseLabel::TakeBackSurf(std::unique_ptr<TVGRBackSurf> own) { TakePlace(fBackSurf, std::move(own)); }
+void TVGRBaseLabel::TakePrintInfo(std::unique_ptr<TVGRBasePrintInfo> own) { TakePlace(fPrintInfo, std::move(own)); }
+
+void HostOperations::ComposeImage(std::u16string_view, std::u16string_view, int, int, int) {
+    throw ENotAvailable(u"Map composition is not implemented by this Vagrel class");
 }
 
 void TVGRBaseLabel::SetMeasure(const TVGRMeasure& value) { fMeasure->Assign(value); }

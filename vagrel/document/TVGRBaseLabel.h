@@ -11,6 +11,7 @@
 #pragma once
 
 #include <vagrel/document/Events.h>
+#include <vagrel/document/HostOperations.h>
 #include <vagrel/document/Observers.h>
 #include <vagrel/document/TFinally.h>
 #include <vagrel/document/TItemHandle.h>
@@ -51,6 +52,8 @@ struct TKSLExtent;
 struct TVGRCmd;
 struct TVGRReceiver;
 namespace detail {
+class TCellIndex;
+class TItemIndex;
 class TUndoStacks;
 struct TStateLog;
 enum class TReplay : std::uint8_t;
@@ -61,7 +64,7 @@ enum class TReplay : std::uint8_t;
 ///
 /// Lists are read by accessors that count from 1 and answer null outside; layers fall back to the first one. The
 /// document belongs to one thread, the host's main thread.
-class TVGRBaseLabel : public TComponent {
+class TVGRBaseLabel : public TComponent, public HostOperations {
 public:
     template <class T>
     using TOwned = std::vector<std::unique_ptr<T>>;
@@ -132,6 +135,8 @@ public:
     int ItemsCount() const { return int(fItems.size()); }
     TVGRBaseItem* GetItem(int index) const;
     const TOwned<TVGRBaseItem>& Preview() const { return fPreview; }
+    /// The preview copies of a sheet cell in their order, without a walk over all of them.
+    std::vector<TVGRBaseItem*> PreviewOf(int row, int column) const;
     int LayersCount() const { return int(fLayers.size()); }
     TVGRLayer& GetLayer(int index) const;
     /// The layer at a zero-based position of a file; the first one out of range.
@@ -156,6 +161,10 @@ public:
     /// One-based; -1 for none.
     int GetIdxLayerBack() const { return fIdxBack; }
     bool HasBackMargins() const;
+    /// Whether the picture of the background layer is still to be decoded: the document asks, and the host that has
+    /// decoded it says so.
+    bool GetNeedReadImg() const { return fNeedReadImg; }
+    void SetNeedReadImg(bool value) { fNeedReadImg = value; }
     int DimStylesCount() const { return int(fDimStyles.size()); }
     TVGRDimStyle* GetDimStyle(int index) const;
     TVGRDimStyle& GetActiveDimStyle() const;
@@ -164,6 +173,12 @@ public:
     TVGRCounter* GetCounter(int index) const;
     int SymbolCount() const { return int(fSymbols.size()); }
     TVGRBaseLibSymbol* GetSymbol(int index) const;
+    const TOwned<TVGRBaseLibSymbol>& Symbols() const { return fSymbols; }
+    /// The symbol that the symbol tool places: the one that was found or chosen last, null for none.
+    TVGRBaseLibSymbol* GetCurrentLibSym() const { return fCurrentLibSym; }
+    void SetCurrentLibSym(TVGRBaseLibSymbol* symbol) { fCurrentLibSym = symbol; }
+    /// What comes before a binary document is written: unused symbols go. There are none until a library gives some.
+    void CleanLibray() {}
     int SelectionCount() const { return int(fSelection.size()); }
     TVGRBaseItem* GetSelection(int index) const;
     bool IsInSelection(std::int32_t id) const;
@@ -183,6 +198,9 @@ public:
     void Adopt(TVGRBaseItem& item);
     void Forget(TVGRBaseItem& item);
     void Touch(TVGRBaseItem& item);
+    /// Its number or identifier, or the cell of a preview copy, is about to change.
+    void Renaming(TVGRBaseItem& item);
+    void Placing();
     void Touch(TVGRLayer& layer);
     void Touch(TVGRDimStyle& style);
     void Touch(TVGRCounter& counter);
@@ -239,6 +257,9 @@ public:
     /// are written to JSON and read from it in double; off at first.
     bool GetExactJson() const { return fExactJson; }
     void SetExactJson(bool value) { fExactJson = value; }
+    /// Whether a rectangle over one text opens its editor only in a document that can be edited; off at first.
+    bool GetGuardedTexts() const { return fGuardedTexts; }
+    void SetGuardedTexts(bool value) { fGuardedTexts = value; }
     bool GetModified() const { return fModified; }
     void SetModified(bool value) { fModified = value; }
     bool GetUpdate() const { return fUpdate; }
@@ -440,6 +461,8 @@ public:
     bool SearchRef(std::int64_t bx, std::int64_t by, std::int64_t gap, TShiftState shift, bool apply);
     /// Adds to the selection what lies in the rectangle, or with `cross` what it meets. False when nothing was added.
     bool SearchRectangle(const TKSLRect& rect, bool cross);
+    /// The selection rectangle that was drawn last; empty before the first.
+    const TKSLRect& GetSelectionRect() const { return fRect; }
     /// Puts centre and radius of the lowest circle there, hidden ones included, into slot 1 of the running action.
     bool SearchCircleAt(std::int64_t bx, std::int64_t by, std::int64_t gap);
     /// The anchor that a link would attach to. The positions that `link` holds stay except at the first pick.
@@ -525,64 +548,6 @@ public:
     void SaveSVG(std::u16string_view filename, TKSLExportSVG type, float factor, bool attrID,
                  bool portable = false) const;
 
-    // The host's operations. Factories take base coordinates and construct the host's class on the active layer.
-
-    virtual TVGRBaseItem& CreateText(std::int64_t x, std::int64_t y) = 0;
-    virtual TVGRBaseItem& CreatePara(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
-    virtual TVGRBaseItem& CreateRichText(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
-    virtual TVGRBaseItem& CreatePoint(std::int64_t x, std::int64_t y) = 0;
-    virtual TVGRBaseItem& CreateLine(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2) = 0;
-    virtual TVGRBaseItem& CreateArrowLine(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::int64_t y2) = 0;
-    virtual TVGRBaseItem& CreatePolyLine(const TKSLPtoA& points) = 0;
-    virtual TVGRBaseItem& CreateBezier(const TKSLPtoA& points) = 0;
-    virtual TVGRBaseItem& CreateArc(TKSLPto first, TKSLPto second, TKSLPto third) = 0;
-    virtual TVGRBaseItem& CreateRectangle(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
-    virtual TVGRBaseItem& CreatePackage(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
-    virtual TVGRBaseItem& CreatePolygon(const TKSLPtoA& points) = 0;
-    virtual TVGRBaseItem& CreateCircle(TKSLPto center, std::int64_t radius) = 0;
-    virtual TVGRBaseItem& CreateCircle2P(TKSLPto first, TKSLPto second) = 0;
-    virtual TVGRBaseItem& CreateCircle3P(TKSLPto first, TKSLPto second, TKSLPto third) = 0;
-    /// Angles in degrees.
-    virtual TVGRBaseItem& CreateSector(TKSLPto center, std::int64_t radius, float start, float end) = 0;
-    virtual TVGRBaseItem& CreateSector2P(TKSLPto first, TKSLPto second, float start, float end) = 0;
-    virtual TVGRBaseItem& CreateSector3P(TKSLPto first, TKSLPto second, TKSLPto third, float start, float end) = 0;
-    virtual TVGRBaseItem& CreateLevel(TKSLPto center, std::int64_t radius) = 0;
-    virtual TVGRBaseItem& CreateEllipse(TKSLPto center, std::int64_t radiusX, std::int64_t radiusY) = 0;
-    virtual TVGRBaseItem& CreateBarcode(std::int64_t x, std::int64_t y, std::u16string_view text, TKSLBarType type) = 0;
-    virtual TVGRBaseItem& CreatePDF417(std::int64_t x, std::int64_t y, std::u16string_view text) = 0;
-    virtual TVGRBaseItem& CreateDataMatrix(std::int64_t x, std::int64_t y, std::u16string_view text) = 0;
-    virtual TVGRBaseItem& CreateQRCode(std::int64_t x, std::int64_t y, std::u16string_view text) = 0;
-    virtual TVGRBaseItem& CreateImage(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height,
-                                      bool keepAspect, std::u16string_view source) = 0;
-    virtual TVGRBaseItem& CreateFlow(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height,
-                                     TKSLFlowType type) = 0;
-    virtual TVGRBaseItem& CreateLink(const TKSLink& from, const TKSLink& to, TKSLinkType type) = 0;
-    virtual TVGRBaseItem& CreatePolyLink(const TKSLink& from, const TKSLink& to, TKSLinkType type,
-                                         const TKSLPtoA& points) = 0;
-    virtual TVGRBaseItem& CreateTable(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
-    virtual TVGRBaseItem& CreatePolyText(std::int64_t x, std::int64_t y) = 0;
-    virtual TVGRBaseItem& CreateRank(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
-    virtual TVGRBaseItem& CreateNutriScore(std::int64_t x, std::int64_t y, std::int64_t width, std::int64_t height) = 0;
-    virtual TVGRBaseItem& CreateSymbol(std::int64_t x, std::int64_t y) = 0;
-    virtual TVGRBaseItem& CreateDim(TKSLPto first, TKSLPto second, TKSLPto position) = 0;
-    virtual TVGRBaseItem& CreateDimAng(const TKSLRefLine& first, const TKSLRefLine& second, TKSLPto side) = 0;
-    /// Angles in radians.
-    virtual TVGRBaseItem& CreateDimRad1(TKSLPto center, std::int64_t radius, double angle) = 0;
-    virtual TVGRBaseItem& CreateDimRad2(TKSLPto center, std::int64_t radius, double angle) = 0;
-    virtual TVGRBaseItem& CreateDimDia1(TKSLPto center, std::int64_t radius, double angle) = 0;
-    virtual TVGRBaseItem& CreateDimDia2(TKSLPto center, std::int64_t radius, double angle) = 0;
-    /// The printer index changed.
-    virtual void PrinterChanged() {}
-    /// Reads one item from a snapshot and appends it.
-    virtual TVGRBaseItem& CreateElementFromStream(std::string_view snapshot) = 0;
-    virtual void PasteSelection() = 0;
-    virtual void Print() = 0;
-    /// Exports pages; `page` counts from 1.
-    virtual void ExportDoc(TKSLExport type, std::u16string_view filename, int page, float scale, int quality,
-                           bool checkData, bool transparent, bool fit) = 0;
-    virtual void LoadFromFile(std::u16string_view filename) = 0;
-    virtual void SaveToFile(std::u16string_view filename, TKSLExt format) = 0;
-
     // Events
 
     TKSLInfoMsgEvent OnInfoMsg;
@@ -600,6 +565,21 @@ protected:
     /// Creates the sub-objects and the first layer and dimension style.
     explicit TVGRBaseLabel(TComponent* owner);
 
+    /// Put an object of the host's class in the place of the document's own, for which it was made. It takes over the
+    /// values, so that steps of undo and open transactions go on; references to the former end. Null is ignored.
+    void TakeBackSurf(std::unique_ptr<TVGRBackSurf> own);
+    void TakePrintInfo(std::unique_ptr<TVGRBasePrintInfo> own);
+    /// What an import waits for between `ComposeImage` and the finished picture.
+    struct TAwaitedMap {
+        bool pending = false;
+        TKSLGMLMapTarget target = gmtLayerBackground;
+        TVGRLayer* mapLayer = nullptr;
+        TVGRLayer* parcelLayer = nullptr;
+        std::int64_t drawScale = 0;
+        TKSLUnits units = unMM;
+        std::int64_t width = 0, height = 0; ///< base units
+    };
+    TAwaitedMap fAwaitedMap;
     /// Ends everything that belongs to the document; a second call does nothing. A host whose items use what the host
     /// owns calls it first in its own destructor. While it runs nobody is told of anything.
     void Teardown();
@@ -638,6 +618,7 @@ private:
     /// Arrow lines that show the unit measure themselves again; true when there is one.
     bool CheckNeedDrawUnits();
     void ClearSelectionLists();
+    void DropCalcs();
     void FreeItems(TOwned<TVGRBaseItem>& items);
     void AddBaseLayer();
     void AddBaseStyle();
@@ -652,8 +633,6 @@ private:
     TVGRBaseItem* Found(TVGRBaseItem& item, bool scrollToView);
     void FillBoxTexts();
     void FillBoxItems(TVGRLayer& layer);
-
-    // Undo
 
     // Transactions
 
@@ -698,6 +677,8 @@ private:
     void Revive(const TVGRCmd& deletion, TReplay direction);
     void TakeBack(std::vector<TVGRCmd>& opposites, std::size_t before);
     void Discard(const TVGRCmd& creation);
+    /// What is shown and told behind a step.
+    void ShowStep();
     void ForgetCommands(TVGRBaseItem& item);
     void ClearCommands();
     void TellUndoRedo();
@@ -751,6 +732,8 @@ private:
     void WalkToLabel(std::int64_t label);
 
     // What items call while they are destroyed stands before their lists, and outlives them.
+    std::unique_ptr<detail::TItemIndex> fIndex;
+    std::unique_ptr<detail::TCellIndex> fCells;
     std::unique_ptr<detail::TUndoStacks> fStacks;
     std::vector<TLog> fLogs; ///< of open transactions, the innermost last
     Observers fObservers;
@@ -779,6 +762,7 @@ private:
     bool fUpdate = false;
     TVagrelOptions fOptions{loUniqueID, loUndoRedo};
     bool fExactJson = false;
+    bool fGuardedTexts = false;
     std::vector<TVGRBaseItem*> fSelection;
     std::vector<TVGRBaseItem*> fLinks;
     std::vector<TVGRBaseItem*> fCalcs;
@@ -791,6 +775,7 @@ private:
     std::u16string fImageFolder, fOpenImgFolder, fLibraryFolder;
     TKSChangeValue fChangeVal;
     TVGRBaseLibSymbol* fCurrentLibSym = nullptr;
+    TKSLRect fRect;
     bool fStepping = false;
     std::exception_ptr fStepFault;
     int fCreating = 0;      ///< items that are half built
@@ -804,22 +789,6 @@ private:
     TKSLAngle fAngle = ag0;
     std::string fMemCopy;
     bool fDestroying = false;
-};
-
-/// An update bracket that closes with its scope, after an exception too. Inside another one it opens and closes
-/// nothing. Inside `BeginUpdate` of a host its notices go out at its end, and its commands are of the host's step.
-class UpdateScope {
-public:
-    explicit UpdateScope(TVGRBaseLabel& label, bool paintOnEnd = true)
-        : fClose(TClose{label, label.OpenScope(paintOnEnd)}) {}
-
-private:
-    struct TClose {
-        TVGRBaseLabel& label;
-        TVGRBaseLabel::TScope scope;
-        void operator()() const { label.CloseScope(scope); }
-    };
-    TFinally<TClose> fClose;
 };
 
 } // namespace vagrel

@@ -3,6 +3,7 @@
 #include <vagrel/document/TVGRBaseLabel.h>
 
 #include <vagrel/document/Owned_p.h>
+#include <vagrel/document/TItemIndex_p.h>
 #include <vagrel/document/TStateLog_p.h>
 #include <vagrel/document/TUndoStacks_p.h>
 #include <vagrel/document/TVGRBaseItem.h>
@@ -89,13 +90,22 @@ void TVGRBaseLabel::CheckFit(TKSLExtent& extent) const {
 
 void TVGRBaseLabel::Adopt(TVGRBaseItem& item) {
     if (item.FromPreview()) {
+        fCells->Drop();
         fPreview.emplace_back(&item);
         return;
     }
+    fIndex->Appending(item);
     if (!fLogs.empty())
         fLogs.back()->items.Appending(fItems, item);
     fItems.emplace_back(&item);
     fModified = true;
+}
+
+void TVGRBaseLabel::Renaming(TVGRBaseItem& item) { fIndex->Renaming(item); }
+void TVGRBaseLabel::Placing() { fCells->Drop(); }
+
+std::vector<TVGRBaseItem*> TVGRBaseLabel::PreviewOf(int row, int column) const {
+    return fCells->Of(fPreview, row, column);
 }
 
 void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
@@ -111,11 +121,14 @@ void TVGRBaseLabel::Forget(TVGRBaseItem& item) {
 
 void TVGRBaseLabel::Unlist(TVGRBaseItem& item) {
     item.SetState(isNormal);
+    item.FromPreview() ? fCells->Drop() : fIndex->Leaving(item);
     std::erase(fSelection, &item);
     std::erase(fLinks, &item);
-    if (const auto at = std::ranges::find(fCalcs, &item); at != fCalcs.end()) {
+    if (item.fAwaitsCalc) {
+        const auto at = std::ranges::find(fCalcs, &item);
         fCalcAt -= std::size_t(at - fCalcs.begin()) < fCalcAt;
         fCalcs.erase(at);
+        item.fAwaitsCalc = false;
     }
     std::erase_if(fSelPoint, [&](const TKSSelectionValue& handle) { return handle.Item == &item; });
     // Preview copies have the number of the item that they show.
@@ -153,6 +166,8 @@ void TVGRBaseLabel::FreeItems(TOwned<TVGRBaseItem>& items) {
             ParkItem(*items.back());
         return;
     }
+    fIndex->Drop();
+    fCells->Drop();
     // Out of the list first: each one that dies looks for itself there.
     const TOwned<TVGRBaseItem> dying = std::move(items);
     items.clear();

@@ -3,6 +3,7 @@
 // redone or taken back.
 #include <vagrel/document/TVGRBaseLabel.h>
 
+#include <vagrel/document/TItemIndex_p.h>
 #include <vagrel/document/TStateLog_p.h>
 #include <vagrel/document/TUndoStacks_p.h>
 #include <vagrel/document/TVGRBackSurf.h>
@@ -12,6 +13,7 @@
 #include <vagrel/document/TVGRSettings.h>
 #include <vagrel/document/Transaction.h>
 #include <vagrel/foundation/Exceptions.h>
+#include <vagrel/geo/TVGRMapping.h>
 #include <vagrel/items/lines/TVGRDimStyle.h>
 #include <vagrel/merge/TVGRCounter.h>
 #include <vagrel/merge/TVGRData.h>
@@ -51,6 +53,7 @@ void TVGRBaseLabel::PageMembers(TMembers& members) {
     fMeasure->Members(members);
     fBackSurf->Members(members);
     fSettings->Members(members);
+    fMapping->Members(members);
     fPrintInfo->Members(members);
 }
 
@@ -131,10 +134,7 @@ void TVGRBaseLabel::RollBackLog() {
     const TLog log = fLogs.back();
     fLogs.pop_back();
     const TReceivers receivers = RestoreLog(*log);
-    const TFinally shown{[this] {
-        FillSelPoints();
-        Refresh();
-    }};
+    const TFinally shown{[this] { ShowStep(); }};
     TellExchanged(*log, receivers);
 }
 
@@ -175,6 +175,10 @@ void TVGRBaseLabel::ResetParts() {
     fresh.fPrinterName = fPrintInfo->fPrinterName;
     fresh.fPrinterIndex = fPrintInfo->fPrinterIndex;
     renew(*fPrintInfo, fresh);
+    TVGRMapping map(*this);
+    map.SetMapApi(fMapping->GetMapApi());
+    renew(*fMapping, map);
+    Clear({cleDimStyles, cleBaseStyle}, false);
     fActiveLayer = fActiveDimStyle = 0;
 }
 
@@ -216,11 +220,10 @@ void TVGRBaseLabel::ReadWhole(const std::function<void()>& read) {
                 fSelection.push_back(item.Get());
             }
         try {
-            FillSelPoints();
             TellExchanged(*stash, receivers);
             TellUndoRedo();
             CheckIntersetions();
-            Refresh();
+            ShowStep();
         } catch (...) {
             // The first fault is the one to tell.
         }
@@ -248,6 +251,7 @@ TVGRBaseLabel::TReceivers TVGRBaseLabel::ExchangeState(TStateLog& log) {
             receivers.push_back(item.fReceiver);
             RaiseMaxID(std::max(item.GetInID(), item.GetInID() + (item.GetInID() < INT32_MAX)));
         });
+    fIndex->Drop(); // names are exchanged, too
     auto nothing = [](auto&) {};
     log.layers.Exchange(fLayers, nothing, nothing);
     log.styles.Exchange(fDimStyles, nothing, nothing);

@@ -135,16 +135,20 @@ void TVGRBaseLabel::Step(TReplay direction) {
             TellUndoRedo();
             fStepping = false;
         }};
-        const TFinally shown{[this] {
-            FillSelPoints();
-            Refresh();
-        }};
+        const TFinally shown{[this] { ShowStep(); }};
         ReplayStep(direction, from);
     }
     if (GetFreshCrossings())
         CheckIntersetions();
     if (const auto fault = std::exchange(fStepFault, nullptr))
         std::rethrow_exception(fault);
+}
+
+void TVGRBaseLabel::ShowStep() {
+    // The inspector alone: editors paint.
+    const TFinally inspected{[this] { ChangeValue(chInspect); }};
+    FillSelPoints();
+    Refresh();
 }
 
 void TVGRBaseLabel::ReplayStep(TReplay direction, std::vector<TVGRCmd>& from) {

@@ -90,8 +90,9 @@ void TVGRBaseLabel::ChangeState(TVagrelState state, TVGRBaseItem& item) {
             item.CalcValues(2);
             ChangeValue(chPaint);
         } else {
-            if (std::ranges::find(fCalcs, &item) == fCalcs.end())
+            if (!item.fAwaitsCalc)
                 fCalcs.push_back(&item);
+            item.fAwaitsCalc = true;
             AddState(lsCalc);
         }
         break;
@@ -131,9 +132,15 @@ void TVGRBaseLabel::CalcPending() {
                 fault = std::current_exception();
         }
     }
-    fCalcs.clear();
+    DropCalcs();
     if (fault)
         std::rethrow_exception(fault);
+}
+
+void TVGRBaseLabel::DropCalcs() {
+    for (TVGRBaseItem* item : fCalcs)
+        item->fAwaitsCalc = false;
+    fCalcs.clear();
 }
 
 void TVGRBaseLabel::FinishUpdate() {
@@ -277,14 +284,14 @@ void TVGRBaseLabel::Clear(TKSLClearSet what, bool paint) {
     if (holds(cleItems)) {
         fCrossings->Clear();
         fMaxID = 1;
-        fCalcs.clear();
+        DropCalcs();
         FreeItems(fItems);
     }
     if (holds(clePreview))
         FreeItems(fPreview);
     if (all) {
         fData->Unlink();
-        fCalcs.clear();
+        DropCalcs();
     }
     // A document that goes on is never without a layer and a dimension style: observers and items look at them at any
     // time. New ones stand in for the last ones.

@@ -5,6 +5,7 @@
 #include <vagrel/document/TVGR2DItem.h>
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Exceptions.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Text.h>

@@ -4,11 +4,14 @@
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/Transaction.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Rounding.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/messages/TVGRMsg.h>
 
 #include <algorithm>
+#include <optional>
 
 namespace vagrel {
 
@@ -52,17 +55,25 @@ void TVGRBaseLabel::FillBoxLayer(bool reset) {
         return;
     ClearSelection(false);
     auto box = std::ranges::find_if(fLayers, [](const auto& layer) { return layer->GetOptions().Has(lopBox); });
+    // Neither a new layer nor the items that go have commands: an image of them makes the step.
+    std::optional<Transaction> step;
+    if ((reset || box == fLayers.end()) && !HasAnyState({lsReading}) && !IsReplaying())
+        step.emplace(*this);
     if (box == fLayers.end()) {
         auto* layer = new TVGRLayer(*this, TVGRMsg::GetInfoValue(u"BoxLayer"), OpaqueBlack, OpaqueWhite);
         layer->SetOptions(layer->GetOptions() + TKSLayerOpts{lopBox} - TKSLayerOpts{lopSelectable});
         box = std::prev(fLayers.end());
         reset = true;
     }
-    const UpdateScope bracket(*this);
-    if (reset)
-        FillBoxItems(**box);
-    else
-        FillBoxTexts();
+    {
+        const UpdateScope bracket(*this);
+        if (reset)
+            FillBoxItems(**box);
+        else
+            FillBoxTexts();
+    }
+    if (step)
+        step->Commit();
 }
 
 void TVGRBaseLabel::FillBoxTexts() {

@@ -3,6 +3,7 @@
 #include <vagrel/document/TVGRBaseLabel.h>
 
 #include <vagrel/document/TVGRBaseItem.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/editor/TAct.h>
 #include <vagrel/foundation/Rounding.h>
 
@@ -227,7 +228,7 @@ void TVGRBaseLabel::ConstructAngle() {
             return;
     }
     const UpdateScope bracket(*this);
-    SetSelection(&CreateDimAng(first, second, picks[2]), isSelected);
+    SetSelection(CreateDimAng(first, second, picks[2]), isSelected);
 }
 
 } // namespace vagrel

@@ -87,7 +87,7 @@ bool TVGRBaseLabel::SearchRectangle(const TKSLRect& rect, bool cross) {
         return false;
     FillSelPoints();
     FillLinkList();
-    SelectionPicked({trText});
+    SelectionPicked(fGuardedTexts && !GetEditable() ? TItemTraits() : TItemTraits{trText});
     return true;
 }
 
@@ -159,6 +159,9 @@ bool TVGRBaseLabel::SearchSelectedText(std::int64_t ax, std::int64_t ay, std::in
 
 bool TVGRBaseLabel::UpdateCurAction(TVGRBaseItem&, std::int64_t, std::int64_t) {
     fInfo = TAct::Reset();
+    ClearSelection(true);
+    ChangeValue(chCursor);
+    FireInfoEvent(true);
     throw ENotAvailable(u"Trimming, extending, joining and equidistant copies are not available yet");
 }
 

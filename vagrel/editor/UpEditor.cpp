@@ -64,6 +64,7 @@ void TVGRBaseLabel::EndRectangle(std::int64_t bx, std::int64_t by) {
     const bool inside = rect.Left <= rect.Right && rect.Top <= rect.Bottom;
     if (!inside)
         rect.NormalizeRect();
+    fRect = rect;
     SearchRectangle(rect, !inside);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Every enumeration that documents and items name. The integer of a value is its position: files store it, so the order
-// is part of the formats. The prefix of a value is its scope.
+// is part of the formats. The prefix of a value is its scope; where the prefixes of two enumerations clash, as `ea` of
+// editor actions with that of arrows of diagram edges, the younger one stands in a namespace of its own.
 #pragma once
 
 #include <cstdint>

@@ -11,6 +11,7 @@
 
 namespace vagrel {
 
+class TMembers;
 class TVGRBaseLabel;
 
 /// A place on the globe: degrees, and UTM metres in a zone.
@@ -51,6 +52,8 @@ public:
 
     /// Copies provider, place, zoom and key; neither the pending image nor the providers that were used.
     void Assign(const TVGRMapping& source);
+    /// Names its fields for what keeps and compares states.
+    void Members(TMembers& members);
 
 protected:
     TVGRBaseLabel& fOwner;

@@ -129,9 +129,7 @@ void TVGRBaseLabel::FillDataPage(std::int32_t page) {
     for (std::int32_t row = page == 1 ? info.GetFirstRow() : 1; row <= rows && label <= info.fLabelsToPrint;
          ++row, column = 1) {
         for (; column <= columns && label <= info.fLabelsToPrint; ++column, ++label) {
-            for (const auto& copy : fPreview)
-                if (copy->GetRow() == row && copy->GetCol() == column)
-                    copy->FillData(true);
+            ForEachLiving(PreviewOf(row, column), [](TVGRBaseItem& copy) { copy.FillData(true); });
             NextData();
         }
     }

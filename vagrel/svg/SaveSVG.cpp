@@ -9,6 +9,8 @@
 #include <vagrel/platform/Files.h>
 #include <vagrel/svg/TSVGOutput.h>
 
+#include <optional>
+
 namespace vagrel {
 
 namespace {
@@ -48,11 +50,30 @@ std::string Document(const TSVGOutput& out, const std::string& root) {
     return text;
 }
 
-// An item on a sheet: what it writes itself, the same in each cell, or the copies that stand for it.
+// An item on a sheet: what it writes itself, the same in each cell, or the number of the copies that stand for it.
 struct TSheetItem {
     std::vector<std::string> lines;
-    std::vector<const TVGRBaseItem*> copies;
+    std::optional<std::int32_t> copied;
 };
+
+bool IsTurned(const TVGRBaseItem& item) {
+    const TKSLPtoA& points = item.Points();
+    return points.size() == 2 && !item.HasTrait(trOrderedPoints) &&
+           (points[0].bX > points[1].bX || points[0].bY > points[1].bY);
+}
+
+// A box of a file may stand turned, which has no form in SVG: it is put right for as long as it is written.
+void Write(TVGRBaseItem& item, TSVGOutput& out) {
+    if (!IsTurned(item))
+        return item.WriteSVG(out);
+    const TFinally restore{[&item, points = item.Points()] {
+        item.StorePoints(points);
+        item.UpdateBounds();
+    }};
+    item.NormalizePoints();
+    item.UpdateBounds();
+    item.WriteSVG(out);
+}
 
 } // namespace
 
@@ -60,7 +81,7 @@ std::string TVGRBaseLabel::SVG(TKSLExportSVG type, float factor, bool attrID, bo
     TSVGOutput out{type, factor, attrID, portable, {}, {}, true};
     for (const auto& item : fItems)
         if (item->Shows({lopVisible, lopExport}))
-            item->WriteSVG(out);
+            Write(*item, out);
     return Document(out, Root(out, *fMeasure, mtLabelWidth, mtLabelHeight));
 }
 
@@ -72,11 +93,9 @@ std::string TVGRBaseLabel::SheetSVG(TKSLExportSVG type, float factor, bool attrI
             continue;
         TSheetItem& shown = items.emplace_back();
         if (item->GetIsData()) {
-            for (const auto& copy : fPreview)
-                if (copy->GetInID() == item->GetInID())
-                    shown.copies.push_back(copy.get());
+            shown.copied = item->GetInID();
         } else {
-            item->WriteSVG(out);
+            Write(*item, out);
             shown.lines = std::exchange(out.svg, {});
         }
     }
@@ -85,11 +104,12 @@ std::string TVGRBaseLabel::SheetSVG(TKSLExportSVG type, float factor, bool attrI
         (group << "<g transform=\"translate(").Val(GetBaseValue(cell.x)) << " ";
         group.Val(GetBaseValue(cell.y)) << ")\">";
         out.svg.push_back(group.Take());
+        const std::vector<TVGRBaseItem*> copies = PreviewOf(cell.row, cell.column);
         for (const TSheetItem& item : items) {
             out.svg.insert(out.svg.end(), item.lines.begin(), item.lines.end());
-            for (const TVGRBaseItem* copy : item.copies)
-                if (copy->GetRow() == cell.row && copy->GetCol() == cell.column)
-                    copy->WriteSVG(out);
+            for (TVGRBaseItem* copy : copies)
+                if (item.copied == copy->GetInID())
+                    Write(*copy, out);
         }
         out.svg.push_back("</g>");
     }

@@ -10,6 +10,8 @@
 
 namespace vagrel {
 
+class TVGRBaseBarcode;
+
 /// Stateless functions that turn values into SVG text in UTF-8. Lengths are millimetres on paper. Values of
 /// enumerations that do not exist give an empty text unless told otherwise.
 struct TExSVG {
@@ -58,6 +60,12 @@ struct TExSVG {
     static std::string DrawTerm(TKSLTermType aType, TKSLExportSVG ExportType, float p1x, float p1y, float p2x,
                                 float p2y, float pW, float Factor, float aTerm, TAlphaColor Color,
                                 TAlphaColor FillColor, int aOpen, bool IsArc);
+
+    /// The bars of a linear barcode in a colour, then its digits, each an element, joined by CR LF; empty for a text
+    /// that its symbology refuses. The barcode is an item of a document: the body stands with it, and the library of
+    /// these texts alone does not have it.
+    static std::string Barcode(const TVGRBaseBarcode& aBarcode, TAlphaColor fColor, float aFactor,
+                               TKSLExportSVG ExportType);
 };
 
 } // namespace vagrel
