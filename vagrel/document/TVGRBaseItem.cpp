@@ -47,9 +47,7 @@ void TVGRBaseItem::Members(TMembers& members) {
             aIsData);
 }
 
-std::u16string TVGRBaseItem::DefaultName() const {
-    return std::u16string(NameItem(fItemType)) + IntToStr(fInID, 3);
-}
+std::u16string TVGRBaseItem::DefaultName() const { return std::u16string(NameItem(fItemType)) + IntToStr(fInID, 3); }
 
 void TVGRBaseItem::SetID(std::u16string_view value) {
     if (value == fID)
