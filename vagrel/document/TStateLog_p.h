@@ -4,10 +4,13 @@
 
 #include <vagrel/document/TListLog_p.h>
 #include <vagrel/document/TVGRLayer.h>
-#include <vagrel/items/lines/TVGRDimStyle.h>
-#include <vagrel/merge/TVGRCounter.h>
 
 #include <string>
+
+namespace vagrel {
+class TVGRCounter;
+class TVGRDimStyle;
+} // namespace vagrel
 
 namespace vagrel::detail {
 

@@ -11,6 +11,8 @@
 #include <vagrel/document/TVGRSettings.h>
 #include <vagrel/document/Transaction.h>
 #include <vagrel/foundation/Exceptions.h>
+#include <vagrel/items/lines/TVGRDimStyle.h>
+#include <vagrel/merge/TVGRCounter.h>
 #include <vagrel/merge/TVGRData.h>
 
 namespace vagrel {
