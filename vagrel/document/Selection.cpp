@@ -118,7 +118,8 @@ void TVGRBaseLabel::ReadClipboard(const std::function<void(std::int32_t version,
     ClearSelection(false);
     BeginRead(true);
     const TFinally end{[this] { EndRead(false); }};
-    TBinaryReader reader(fMemCopy);
+    const std::string copy = fMemCopy; // a handler may fill it anew
+    TBinaryReader reader(copy);
     const auto count = reader.Read<std::int32_t>();
     for (std::int32_t i = 0; i < count; ++i)
         read(CurrentVersion, reader);

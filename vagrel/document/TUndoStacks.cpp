@@ -53,6 +53,7 @@ TUndoStacks::TStack TUndoStacks::TakeStep(TStack& stack) {
         return step;
     fUnReRef = stack.back().fUndRedID;
     while (!stack.empty() && stack.back().fUndRedID == fUnReRef) {
+        fStateTaken = fStateTaken || stack.back().fKind == ckState;
         step.push_back(std::move(stack.back()));
         stack.pop_back();
     }
@@ -88,6 +89,7 @@ void TUndoStacks::PushState(TStack& stack, TVGRCmd command) {
 
 void TUndoStacks::Clear() {
     fUnReID = 0;
+    fStateTaken = false;
     ++fTimesCleared;
     // Elements that were parked end here; what they tell of must find empty stacks.
     const TStack ends[] = {std::exchange(undo, {}), std::exchange(redo, {})};
@@ -96,7 +98,7 @@ void TUndoStacks::Clear() {
 
 void TUndoStacks::Retire(std::shared_ptr<void> part) {
     auto holds = [](const TVGRCmd& command) { return command.fKind == ckState; };
-    if (std::ranges::any_of(undo, holds) || std::ranges::any_of(redo, holds))
+    if (fStateTaken || std::ranges::any_of(undo, holds) || std::ranges::any_of(redo, holds))
         fRetired.push_back(std::move(part));
 }
 

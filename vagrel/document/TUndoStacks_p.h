@@ -82,7 +82,8 @@ private:
     bool Regroups() const { return replay != TReplay::None && replay != TReplay::Deletion; }
 
     bool fIncUnReID = true;
-    bool fRedoIsTold = true; ///< certainly without a transaction's command
+    bool fStateTaken = false; ///< a step that is replayed may hold states, too
+    bool fRedoIsTold = true;  ///< certainly without a transaction's command
     std::int32_t fUnReID = 0, fUnReRef = 0;
     std::uint32_t fTimesCleared = 0;
     std::vector<std::shared_ptr<void>> fRetired;
