@@ -2,6 +2,7 @@
 // A document of 100,000 mixed lines and figures: made, saved and loaded in both forms, exported. Figures, with the peak
 // memory of the process.
 #include <host/HostLabel.h>
+#include <vagrel/document/UpdateScope.h>
 
 #include <benchmark/benchmark.h>
 
