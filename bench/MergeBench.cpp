@@ -5,6 +5,7 @@
 #include <host/PageWriter.h>
 #include <vagrel/document/TVGRBasePrintInfo.h>
 #include <vagrel/document/TVGRMeasure.h>
+#include <vagrel/document/UpdateScope.h>
 #include <vagrel/foundation/Text.h>
 #include <vagrel/items/text/TVGRBaseText.h>
 #include <vagrel/merge/TVGRCounter.h>

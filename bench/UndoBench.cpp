@@ -3,6 +3,7 @@
 // number.
 #include <host/HostLabel.h>
 #include <vagrel/document/TVGRBaseItem.h>
+#include <vagrel/document/UpdateScope.h>
 
 #include <benchmark/benchmark.h>
 
