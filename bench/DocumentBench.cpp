@@ -2,7 +2,11 @@
 // A document of 100,000 mixed lines and figures: made, saved and loaded in both forms, exported. Figures, with the peak
 // memory of the process.
 #include <host/HostLabel.h>
+#include <vagrel/document/TVGRBaseItem.h>
+#include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/document/UpdateScope.h>
+#include <vagrel/foundation/Text.h>
+#include <vagrel/items/text/TVGRBaseText.h>
 
 #include <benchmark/benchmark.h>
 
@@ -95,6 +99,41 @@ void ExportSvg(benchmark::State& state) {
     state.counters["peak MB"] = PeakMegabytes();
 }
 
+// Linear when the figure of an item stays the same at any number.
+void Names(benchmark::State& state) {
+    const int count = int(state.range(0));
+    for (auto _ : state) {
+        HostLabel label;
+        for (int i = 0; i < count; ++i)
+            label.CreatePoint(i, 0).SetID(u"name " + FromUtf8(std::to_string(i)));
+        for (int i = 0; i < count; ++i) {
+            benchmark::DoNotOptimize(label.SearchItem(u"name " + FromUtf8(std::to_string(i)), false));
+            benchmark::DoNotOptimize(label.SearchItem(i + 1, false));
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * count);
+}
+
+// The preview copies of a sheet, made and found by their cell.
+void Cells(benchmark::State& state) {
+    const auto side = std::int32_t(state.range(0));
+    HostLabel label;
+    dynamic_cast<TVGRBaseText&>(label.CreateText(0, 0)).SetData(ftCsv, u"Name", u"");
+    label.GetMeasure().SetNuHor(side);
+    label.GetMeasure().SetNuVer(side);
+    for (auto _ : state) {
+        label.MakePreview();
+        std::size_t found = 0;
+        for (std::int32_t i = 0; i < side * side; ++i)
+            found += label.PreviewOf(1 + i / side, 1 + i % side).size();
+        benchmark::DoNotOptimize(found);
+        state.counters["copies"] = double(found);
+    }
+    state.SetItemsProcessed(state.iterations() * side * side);
+}
+
+BENCHMARK(Names)->Arg(1'000)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Cells)->Arg(25)->Arg(50)->Arg(100)->Unit(benchmark::kMillisecond);
 BENCHMARK(Make)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(Save<lfJSON>)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(Load)->Name("Load<lfJSON>")->Unit(benchmark::kMillisecond)->Iterations(3);

@@ -9,7 +9,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <ctime>
 #include <random>
 
 namespace vagrel::test {
@@ -118,59 +117,6 @@ TEST_F(Lookup, CopiesOfACellFollowTheirPlaceAndTheirEnd) {
     EXPECT_THAT(label.PreviewOf(-1, -1), ElementsAre(copies[1]));
     label.Clear({clePreview}, false);
     EXPECT_TRUE(label.PreviewOf(1, 2).empty());
-}
-
-// The processor's time for work of some size, divided by that of a quarter of it: 4 for what is linear, 16 for what is
-// quadratic.
-double Growth(const std::function<void(int)>& work, int size) {
-    auto seconds = [&](int each) {
-        const std::clock_t begin = std::clock();
-        work(each);
-        return double(std::clock() - begin);
-    };
-    seconds(size / 16);
-    return seconds(size) / seconds(size / 4);
-}
-
-TEST(LookupCost, IsLinear) {
-    auto id = [](int i) { return u"name " + FromUtf8(std::to_string(i)); };
-    EXPECT_LT(Growth(
-                  [&](int size) {
-                      TestHost label;
-                      for (int i = 0; i < size; ++i)
-                          MakeProbe(label, itLine).SetID(id(i));
-                      for (int i = 0; i < size; ++i) {
-                          EXPECT_EQ(label.SearchItem(id(i), false)->GetInID(), i + 1);
-                          EXPECT_EQ(label.SearchItem(i + 1, false)->GetInID(), i + 1);
-                      }
-                  },
-                  8000),
-              9)
-        << "names";
-    EXPECT_LT(Growth(
-                  [&](int size) {
-                      TestHost label;
-                      for (int i = 0; i < size; ++i)
-                          new ProbeItem(label, itLine, {{0, 0}, {1, 1}}, true);
-                      for (int i = 0; i < size; ++i)
-                          label.Preview()[std::size_t(i)]->PreviewPos(std::int16_t(i % 100), std::int16_t(i / 100));
-                      for (int i = 0; i < size; ++i)
-                          EXPECT_EQ(label.PreviewOf(i / 100, i % 100).size(), 1u);
-                  },
-                  8000),
-              9)
-        << "cells";
-    EXPECT_LT(Growth(
-                  [&](int size) {
-                      TestHost label;
-                      label.BeginUpdate(true);
-                      for (int i = 0; i < size; ++i)
-                          MakeProbe(label, itLine).StateCalc();
-                      label.EndUpdate();
-                  },
-                  16000),
-              9)
-        << "items that are calculated at the end of a bracket";
 }
 
 } // namespace
