@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Handlers and hosts that add, delete, clear and throw in the middle of what the document does.
 #include <tests/document/ProbeItem.h>
+#include <tests/support/ItemSuite.h>
 
 #include <vagrel/document/TVGRLayer.h>
 #include <vagrel/document/UpdateScope.h>
@@ -183,6 +184,52 @@ TEST_F(Hostile, AnEventMayDeleteTheItemThatItTellsOf) {
         EXPECT_EQ(label.ItemsCount(), 2);
         label.OnUndoRedo = {};
     }
+}
+
+// Whoever is told of a change may end the item that changes.
+TEST_F(Hostile, EverySetterOfEveryFamilyMayBeItsItemsLast) {
+    label.SetOptions({loUndoRedo}); // all take the same identifier
+    int ends = 0;
+    for (const TKSLItemType type : AvailableItemTypes()) {
+        std::size_t count = 1;
+        for (std::size_t i = 0; i < 4 * count; ++i) {
+            TestHost one;
+            one.SetOptions({loUndoRedo});
+            one.BeginUpdate(true);
+            one.EndUpdate(); // from here on it tells of single changes
+            TVGRBaseItem& item = MakeSample(one, *SampleOf(type));
+            std::vector<std::function<void()>> acts;
+            for (const TSetter& set : SettersOf(item, false))
+                acts.push_back(set);
+            for (const TKSLMoveOpt side : {moAll, moLeft, moRight, moTop, moBottom}) {
+                acts.push_back([&item, side] { item.Move(1, 1, side); });
+                acts.push_back([&item, side] { item.BaseMove(70, 50, 0, 0, side, true); });
+            }
+            acts.push_back([&item] { item.RotateLeft(); });
+            acts.push_back([&item] { item.CalcValues(2); });
+            count = acts.size();
+            if (i % 2)
+                one.AddToSelection(item, false);
+            const TItemHandle handle(item);
+            bool ended = false;
+            auto end = [&](auto&&...) {
+                if (!std::exchange(ended, true))
+                    one.Clear({cleItems}, false);
+            };
+            RecordingObserver watching(duEditor);
+            one.Attach(&watching);
+            if (i / 2 % 2)
+                one.OnUndoRedo = end;
+            else
+                watching.onUpdate = end;
+            acts[i / 4]();
+            one.OnUndoRedo = {};
+            watching.onUpdate = {};
+            ends += ended;
+            EXPECT_EQ(one.SelectionCount(), handle ? int(i % 2) : 0) << type << " " << i;
+        }
+    }
+    EXPECT_GT(ends, 300);
 }
 
 TEST_F(Hostile, TheSelectionBearsHandlersThatAddAndDelete) {
