@@ -195,9 +195,8 @@ TEST_F(Hostile, EverySetterOfEveryFamilyMayBeItsItemsLast) {
         for (std::size_t i = 0; i < 4 * count; ++i) {
             TestHost one;
             one.SetOptions({loUndoRedo});
-            one.BeginUpdate(true);
-            one.EndUpdate(); // from here on it tells of single changes
             TVGRBaseItem& item = MakeSample(one, *SampleOf(type));
+            one.PaintEditor(); // from here on, as in a drag, every change is told at once
             std::vector<std::function<void()>> acts;
             for (const TSetter& set : SettersOf(item, false))
                 acts.push_back(set);

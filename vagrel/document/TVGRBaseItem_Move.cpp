@@ -2,6 +2,7 @@
 // Moving, turning and offsetting an item, and keeping it on the page.
 #include <vagrel/document/TVGRBaseItem.h>
 
+#include <vagrel/document/TItemHandle.h>
 #include <vagrel/document/TVGRBaseLabel.h>
 #include <vagrel/document/TVGRMeasure.h>
 #include <vagrel/foundation/Rounding.h>
@@ -114,6 +115,7 @@ void TVGRBaseItem::BaseMove(std::int64_t bx, std::int64_t by, std::int64_t gx, s
 
 void TVGRBaseItem::Move(float ax, float ay, TKSLMoveOpt option) {
     Touch();
+    const TItemHandle self(*this); // who is told may end it
     const TKSLUnits units = fOwner.GetUnits();
     if (option == moAll) {
         for (TKSLPto& point : fPoints)
@@ -124,7 +126,8 @@ void TVGRBaseItem::Move(float ax, float ay, TKSLMoveOpt option) {
         At(2).Move(dx, dy, units);
         StateCalc();
     }
-    UpdateBounds();
+    if (self)
+        UpdateBounds();
 }
 
 void TVGRBaseItem::RotateLeft() {

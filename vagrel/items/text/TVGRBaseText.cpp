@@ -106,8 +106,9 @@ void TVGRBaseText::SetData(TKSLFillType type, std::u16string_view name, std::u16
     fBinding.Set(type, name, format);
     ShowBinding();
     fText = dText;
+    const TItemHandle self(*this); // who is told may end it
     StateCalc();
-    if (fState == isSelected)
+    if (self && fState == isSelected)
         NotifyUpdate(chChText);
 }
 
